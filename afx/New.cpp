@@ -1,0 +1,39 @@
+// Allocation inside the library reports failure as the class library does:
+// by throwing a CMemoryException*, which the graph operations catch and turn
+// into their status value.
+#include "afx/afx.h"
+#include <new>
+#include <stdlib.h>
+
+void* operator new(size_t nSize)
+{
+    void* p = malloc(nSize != 0 ? nSize : 1);
+    if (p == NULL)
+        AfxThrowMemoryException();
+    return p;
+}
+
+void* operator new[](size_t nSize)
+{
+    return operator new(nSize);
+}
+
+void operator delete(void* p) noexcept
+{
+    free(p);
+}
+
+void operator delete[](void* p) noexcept
+{
+    free(p);
+}
+
+void operator delete(void* p, size_t) noexcept
+{
+    free(p);
+}
+
+void operator delete[](void* p, size_t) noexcept
+{
+    free(p);
+}

@@ -1,0 +1,196 @@
+// Layout of the graph: where the plot rectangle lies in the graph rectangle,
+// for a new graph, for a window (ReSizeGraph) and for any device context
+// (SizeGraph), and the smallest usable graph. The margins follow the font
+// and the widest number the axes can print.
+#include "graph/GraphPrv.h"
+#include <stdio.h>
+
+namespace {
+
+// Line height L and the width of a vertical axis title: L for a TrueType
+// font (printed rotated), else the widest character (printed stacked).
+int LineHeight(const TEXTMETRIC& tm)
+{
+    return tm.tmHeight + tm.tmExternalLeading;
+}
+
+int TitleWidth(const TEXTMETRIC& tm)
+{
+    return (tm.tmPitchAndFamily & TMPF_TRUETYPE) ? LineHeight(tm) : tm.tmMaxCharWidth;
+}
+
+// A font for a printer or plotter, made at the device's resolution; null for
+// other devices, which use the graph's own font.
+CFont* CreateDeviceFont(CDC* pDC, LOGFONT& logFont, int nPointSize)
+{
+    int nTechnology = pDC->GetDeviceCaps(TECHNOLOGY);
+    if (nTechnology != DT_PLOTTER && nTechnology != DT_RASPRINTER)
+        return NULL;
+    LONG lOldHeight = logFont.lfHeight;
+    logFont.lfHeight = nPointSize;
+    CFont* pFont = new CFont;
+    pFont->CreatePointFontIndirect(&logFont, pDC);
+    logFont.lfHeight = lOldHeight;
+    return pFont;
+}
+
+} // namespace
+
+int CGraphPrv::GetAveWidthOfNumericChar(CDC* pDC)
+{
+    return pDC->GetTextExtent("0123456789", 10).cx / 10 - 2;
+}
+
+CString CGraphPrv::GetMaxLenString()
+{
+    char szBuffer[100];
+    _snprintf(szBuffer, sizeof(szBuffer) - 1, m_strMaxLenFormat, -10000.0);
+    szBuffer[sizeof(szBuffer) - 1] = '\0';
+    return CString(szBuffer);
+}
+
+void CGraphPrv::LayoutMargins(const TEXTMETRIC& tm, int nNumberWidth, BOOL bRightMargin, BOOL bFirstLayout)
+{
+    const int L = LineHeight(tm);
+    const int nTitle = TitleWidth(tm);
+    m_rectPlot.left = m_rectGraph.left + nNumberWidth + nTitle + 3;
+    if (bRightMargin)
+        m_rectPlot.right = m_rectGraph.right - nNumberWidth - nTitle - (bFirstLayout ? 0 : 3);
+    else
+        m_rectPlot.right = m_rectGraph.right - nNumberWidth / 2;
+    m_rectPlot.top = m_rectGraph.top + (3 * L) / 2;
+    m_rectPlot.bottom = m_rectGraph.bottom - (5 * L) / 2 - 1;
+    m_rectScroll = m_rectPlot;
+    m_rectScroll.left += 1;
+    m_rectScroll.top += 1;
+}
+
+void CGraphPrv::LayoutFirst(const TEXTMETRIC& tm)
+{
+    int A = tm.tmAveCharWidth + tm.tmOverhang;
+    LayoutMargins(tm, 14 * A, (m_dwStyle & GS_RIGHTAXIS) != 0, TRUE);
+}
+
+void CGraphPrv::TakeOffLegend()
+{
+    if (m_legend.m_hWnd == NULL || !m_legend.IsShown() || m_legend.GetAutoHide())
+        return;
+    CRect rectLegend;
+    m_legend.GetWindowRect(&rectLegend);
+    switch (m_legend.GetPosition()) {
+    case 1: m_rectGraph.top += rectLegend.Height(); break;
+    case 2: m_rectGraph.bottom -= rectLegend.Height(); break;
+    case 3: m_rectGraph.left += rectLegend.Width(); break;
+    case 4: m_rectGraph.right -= rectLegend.Width(); break;
+    }
+}
+
+int CGraphPrv::ReSizeGraph(CRect* pRect)
+{
+    if (m_hWnd == NULL)
+        return 0;
+
+    TEXTMETRIC tm;
+    int D, S;
+    CClientDC dc(this);
+    {
+        CSelectGuard selectFont(&dc, &m_font);
+        dc.GetTextMetrics(&tm);
+        D = GetAveWidthOfNumericChar(&dc) + tm.tmOverhang;
+        S = dc.GetTextExtent(GetMaxLenString()).cx;
+    }
+
+    MoveWindow(pRect, TRUE);
+    GetClientRect(&m_rectGraph);
+    TakeOffLegend();
+    LayoutMargins(tm, S, (m_dwStyle & GS_RIGHTAXIS) != 0, FALSE);
+
+    // Too low or too narrow for the margins: the plot takes the whole graph.
+    const int L = LineHeight(tm);
+    if (m_rectPlot.bottom - m_rectPlot.top < 3 * L) {
+        m_rectPlot.top = m_rectGraph.top;
+        m_rectPlot.bottom = m_rectGraph.bottom - 1;
+    }
+    if (m_rectPlot.right - m_rectPlot.left < 3 * (D + tm.tmOverhang)) {
+        m_rectPlot.left = m_rectGraph.left;
+        m_rectPlot.right = m_rectGraph.right - 1;
+    }
+    m_rectScroll = m_rectPlot;
+    m_rectScroll.left += 1;
+    m_rectScroll.top += 1;
+
+    CalcTicMarkPixels();
+    m_bPointsStale = TRUE;
+
+    m_legend.Reposition();
+    UpdateAllFloatingLabelPositions();
+    if (m_dwState & GST_CROSSHAIR)
+        m_crossHair.Resize();
+    if (m_dwState & GST_LIMIT_EDIT)
+        SetFocus();   // ends an open limit editor
+    return 1;
+}
+
+int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis)
+{
+    m_rectGraph.SetRect(x, y, x + nWidth, y + nHeight);
+    TakeOffLegend();
+
+    LONG lOldHeight = m_logFont.lfHeight;
+    CFont* pDeviceFont = NULL;
+    try {
+        pDeviceFont = CreateDeviceFont(pDC, m_logFont, m_nPointSize);
+    } catch (CException* e) {
+        e->Delete();
+    }
+    {
+        CSelectGuard selectFont(pDC, pDeviceFont != NULL ? pDeviceFont : &m_font);
+        TEXTMETRIC tm;
+        pDC->GetTextMetrics(&tm);
+        int S = pDC->GetTextExtent(GetMaxLenString()).cx;
+        LayoutMargins(tm, S, bRightAxis, FALSE);
+        CalcTicMarkPixels();
+        m_bPointsStale = TRUE;
+    }
+    m_logFont.lfHeight = lOldHeight;
+
+    UpdateAllFloatingLabelPositions();
+    if (m_strXAxisNumFmt != m_strLastXNumFmt || m_strYAxisNumFmt[0] != m_strLastYNumFmt) {
+        m_strLastXNumFmt = m_strXAxisNumFmt;
+        m_strLastYNumFmt = m_strYAxisNumFmt[0];
+        if (m_dwState & GST_CROSSHAIR)
+            m_crossHair.Resize();
+    }
+    delete pDeviceFont;
+    return 1;
+}
+
+int CGraphPrv::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
+{
+    // Works on a copy of the font description: the graph does not change.
+    static LOGFONT s_logFont;
+    s_logFont = m_logFont;
+    CFont* pDeviceFont = NULL;
+    try {
+        pDeviceFont = CreateDeviceFont(pDC, s_logFont, m_nPointSize);
+    } catch (CException* e) {
+        e->Delete();
+    }
+    TEXTMETRIC tm;
+    int D, S;
+    {
+        CSelectGuard selectFont(pDC, pDeviceFont != NULL ? pDeviceFont : &m_font);
+        pDC->GetTextMetrics(&tm);
+        D = GetAveWidthOfNumericChar(pDC);
+        S = pDC->GetTextExtent(GetMaxLenString()).cx;
+    }
+    delete pDeviceFont;
+
+    const int L = LineHeight(tm);
+    const BOOL bTrueType = (tm.tmPitchAndFamily & TMPF_TRUETYPE) != 0;
+    int nLeft = bTrueType ? S + L : S + tm.tmOverhang + tm.tmMaxCharWidth;
+    int nRight = RightAxisDisplayed() ? nLeft : S / 2;
+    *pnWidth = nLeft + nRight + 3 * D;
+    *pnHeight = 3 * L + ((5 * L) / 2 + 1) + (3 * L) / 2;
+    return 1;
+}

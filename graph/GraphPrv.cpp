@@ -1,0 +1,168 @@
+// CGraphPrv: construction with the defaults of every field, creation with
+// or without a window, the first layout of a new graph, the window
+// operations, destruction.
+#include "graph/GraphPrv.h"
+#include "graph/Globals.h"
+#include "resources/resource.h"
+#include <string.h>
+
+IMPLEMENT_DYNCREATE(CGraphPrv, CWnd)
+
+BEGIN_MESSAGE_MAP(CGraphPrv, CWnd)
+    ON_WM_DESTROY()
+    // (message map entries)
+END_MESSAGE_MAP()
+
+CGraphPrv::CGraphPrv()
+    : m_dwState(GST_RADAR_DBLCLK), m_bFGPlot(false), m_bBGPlot(false), m_dwStyle(0x71),
+      m_nGridPenWidth(1), m_crBackground(0xFFFFFF), m_nAutoScaleMode(0), m_dwGridType(1),
+      m_crGrid(0), m_dwGridStyle(0), m_nGraphColorsMode(GRAPH_COLORS_FIXED),
+      m_pGraphColors(g_pDefaultLineColors), m_nGraphColors(DEFAULT_LINE_COLORS),
+      m_nNextRotatingColor(0), m_bStopIncrementColor(FALSE),
+      m_dXMax(1.0), m_dXMin(0.0), m_bZoomEnabled(TRUE), m_bRightAxisDisplayed(FALSE),
+      m_nXTicCount(0), m_nXTicType(1), m_fXResolution(0.0f), m_mapRefLines(10),
+      m_nMinorTics(0), m_nLogPixelsX(0), m_nLogPixelsY(0), m_pMarkerLine(NULL),
+      m_bPointsStale(FALSE), m_nPointSize(80), m_crText(0), m_lFontWeight(0), m_bFontItalic(0),
+      m_pNotify(NULL), m_mapPlotData(10), m_bMenuEnabled(TRUE), m_wRadarType(RADAR_X | RADAR_YLEFT | RADAR_YRIGHT),
+      m_dRadarXPercent(0.0), m_dRadarYPercent(10.0), m_bRadarPercentControls(TRUE),
+      m_bRadarAxisControls(TRUE), m_hPlotCursor(NULL), m_mapFloatingLabels(10),
+      m_pLabelTracker(NULL), m_wNextLabelId(2001), m_lPropPageConfig(15), m_lMenuConfig(63),
+      m_strMaxLenFormat("%.3E")
+{
+    m_dYMax[0] = m_dYMax[1] = 1.0;
+    m_dYMin[0] = m_dYMin[1] = 0.0;
+    m_nYTicCount[0] = m_nYTicCount[1] = 0;
+    m_nYTicType[0] = m_nYTicType[1] = 1;
+    m_fYResolution[0] = m_fYResolution[1] = 0.0f;
+
+    g_bGraphCreated = TRUE;
+
+    // Tic tables of a graph without layout, in steps of an eleventh of the
+    // span, until the first layout or limit change replaces them.
+    const double dEleventh = 0.09090909090909091;
+    for (int i = 0; i <= 10; i++) {
+        m_dXTicValue[i] = (m_dXMax - m_dXMin) * dEleventh * i;
+        m_dYTicValue[0][i] = (m_dYMax[0] - m_dYMin[0]) * dEleventh * i;
+        m_dYTicValue[1][i] = (m_dYMax[1] - m_dYMin[1]) * dEleventh * i;
+        m_nXTicPixel[i] = 0;
+        m_nYTicPixel[0][i] = 0;
+    }
+
+    // The plot cursor always comes from the library itself.
+    m_hPlotCursor = ::LoadCursorA(g_hGraphInstance, MAKEINTRESOURCEA(IDC_PLOT_CURSOR));
+
+    m_strFaceName.LoadString(IDS_FONT_FACE);
+    m_font.CreatePointFont(m_nPointSize, m_strFaceName);
+    memset(&m_logFont, 0, sizeof(m_logFont));
+    m_font.GetLogFont(&m_logFont);
+    m_lFontWeight = m_logFont.lfWeight;
+    m_bFontItalic = m_logFont.lfItalic;
+}
+
+CGraphPrv::~CGraphPrv()
+{
+    DestroyOwnedTools();
+    DestroyWindow();   // OnDestroy removes the series
+    if (m_hPlotCursor != NULL)
+        ::DestroyCursor(m_hPlotCursor);
+}
+
+int CGraphPrv::CreateGraph(CWnd* pParent, HINSTANCE, CRect& rect, DWORD dwStyle, UINT nID, long lMenuConfig)
+{
+    m_dwStyle = dwStyle;
+    m_rectGraph = rect;
+    m_lMenuConfig = lMenuConfig;
+    if (dwStyle & GS_NOWINDOW) {
+        InitMemberVariables(pParent);
+        return (int)m_dwStyle;
+    }
+    LPCSTR lpszClass = NULL;
+    try {
+        lpszClass = AfxRegisterWndClass(CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS, NULL,
+                                        (HBRUSH)(COLOR_WINDOW + 1), NULL);
+    } catch (CException* e) {
+        e->Delete();
+    }
+    BOOL bCreated = lpszClass != NULL &&
+                    Create(lpszClass, "", WS_CHILD | WS_CLIPSIBLINGS, m_rectGraph, pParent, nID, NULL);
+    InitMemberVariables(pParent);
+    return bCreated;
+}
+
+void CGraphPrv::InitMemberVariables(CWnd* pParent)
+{
+    // The parent's context gives the metrics of the graph's font.
+    TEXTMETRIC tm;
+    memset(&tm, 0, sizeof(tm));
+    {
+        CClientDC dc(pParent);
+        CSelectGuard selectFont(&dc, &m_font);
+        dc.GetTextMetrics(&tm);
+    }
+
+    if (m_hWnd != NULL)
+        GetClientRect(&m_rectGraph);
+    LayoutFirst(tm);
+
+    m_nXTicCount = 10;
+    m_nYTicCount[0] = 10;
+    m_nYTicCount[1] = 10;
+    CalcXTicValues();
+    CalcYTicValues(0);
+    CalcYTicValues(1);
+    CalcTicMarkPixels();
+
+    if (!(m_dwStyle & GS_NOWINDOW))
+        m_legend.Create(this, 4);
+
+    // Series and labels that arrived before creation (as from an archive).
+    if (m_legend.m_hWnd != NULL) {
+        POSITION pos = m_mapPlotData.GetStartPosition();
+        while (pos != NULL) {
+            CString strName;
+            CPlotData* pData = NULL;
+            m_mapPlotData.GetNextAssoc(pos, strName, pData);
+            AddSeriesToLegend(pData);
+        }
+    }
+    PlaceFloatingLabels();
+}
+
+int CGraphPrv::ShowGraph()
+{
+    ShowWindow(SW_SHOW);
+    Replot();
+    UpdateWindow();
+    return 1;
+}
+
+int CGraphPrv::HideGraph()
+{
+    ShowWindow(SW_HIDE);
+    return 1;
+}
+
+int CGraphPrv::Update()
+{
+    UpdateWindow();
+    return 1;
+}
+
+int CGraphPrv::Replot()
+{
+    if (m_hWnd != NULL)
+        InvalidateRect(NULL, TRUE);
+    return 1;
+}
+
+void CGraphPrv::DestroyOwnedTools()
+{
+    RemoveAllReferenceLines();
+    RemoveAllFloatingLabels();
+}
+
+void CGraphPrv::OnDestroy()
+{
+    CWnd::OnDestroy();
+    RemoveAllPlotData();
+}

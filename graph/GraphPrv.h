@@ -1,0 +1,260 @@
+// CGraphPrv: the whole state of one graph, and the child window that shows
+// it. One class written across the subsystem folders, one topic per file:
+//   graph/    construction, creation, texts and rectangles
+//   series/   adding, updating and removing series
+//   axes/     limits, transforms, tic tables and layout
+//   render/   the plot pipeline and the drawers
+//   interact/ mouse, tools, notifications, legend
+//   persist/  colours, fonts and the stores
+//   sheet/    the property sheet
+// The fields are public: the operations of every topic read them directly,
+// as do the small helper classes of the graph.
+#pragma once
+
+#include "afx/afxwin.h"
+#include "afx/afxcoll.h"
+#include "afx/afxtempl.h"
+#include "graph/GraphDefs.h"
+#include "interact/CrossHair.h"
+#include "interact/GraphNotify.h"
+#include "interact/Legend.h"
+#include "persist/LineColor.h"
+
+class CPlotData;
+class CRefLineData;
+class CFloatingLabel;
+class CMarkerLine;
+class CRectTracker;
+class CPropertyPage;
+
+// Minor tics of one axis: pixel distance of two major tics, and the offsets
+// of the minor tics from the major one before them.
+struct MINORTICS
+{
+    int nSpacing;
+    int nOffset[9];
+};
+
+class AFX_EXT_CLASS CGraphPrv : public CWnd
+{
+    DECLARE_DYNCREATE(CGraphPrv)
+public:
+    CGraphPrv();
+    virtual ~CGraphPrv();
+
+    // ---- Replaceable by a derived class (called through the virtual table) --
+    virtual int Plot(CDC* pDC, int bSeriesOnly);
+    virtual int PutLabels(CDC* pDC);
+    virtual int Replot();
+    virtual int ReSizeGraph(CRect* pRect);
+    virtual int ShowGraph();
+    virtual void Serialize(CArchive& ar);
+
+    // ---- graph/: creation, window, texts and rectangles -----------------------
+    int CreateGraph(CWnd* pParent, HINSTANCE hInstance, CRect& rect, DWORD dwStyle, UINT nID, long lMenuConfig);
+    int HideGraph();
+    int Update();
+    int HaveRightAxis();
+    int RightAxisDisplayed();
+    int GetGraphClientRect(RECT* pRect);
+    int GetGraphScreenRect(RECT* pRect);
+    int GetPlotRect(CRect& rect);
+    int SetGraphTitle(const CString& strTitle);
+    int GetGraphTitle(CString& strTitle);
+    int SetXAxisLabel(const CString& strLabel);
+    int GetXAxisLabel(CString& strLabel);
+    int SetYAxisLabel(int nAxis, const CString& strLabel);
+    int GetYAxisLabel(int nAxis, CString& strLabel);
+    int SetXAxisNumFmt(const CString& strFormat);
+    int SetYAxisNumFmt(int nAxis, const CString& strFormat);
+
+    // ---- series/: the series of the graph -----------------------------------
+    int AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, float* pfY, long lPoints,
+                    DWORD crColor, int nLineStyle, int nAnnotate);
+    int AddPlotData(const CString& strName, DWORD dwAxis, double* pdX, double* pdY, long lPoints,
+                    DWORD crColor, int nLineStyle, int nAnnotate);
+    int UpdatePlotData(const CString& strName, float* pfX, float* pfY, long lFirst, long lPoints);
+    int UpdatePlotData(const CString& strName, double* pdX, double* pdY, long lFirst, long lPoints);
+    int RemovePlotData(const CString& strName);
+    int RemoveAllPlotData();
+    int SetPlotDataAttributes(const CString& strName, DWORD crColor, int nLineStyle, int nLineWidth,
+                              int nAnnotate, DWORD crAnnotate);
+    int GetPlotDataAttributes(const CString& strName, DWORD& crColor, int& nLineStyle, int& nLineWidth,
+                              int& nAnnotate, DWORD& crAnnotate);
+
+    // ---- persist/: colours and the font -------------------------------------
+    int SetBackgroundColor(DWORD crColor);
+    int GetBackgroundColor(DWORD& crColor);
+    int SetGraphColorsMode(int nMode);
+    int SetGraphColors(CLineColor* pColors, long lCount);
+    int GetMatchingColor(const CString& strName, CLineColor& color);
+    int GetNextRotatingColor(CLineColor& color);
+    int ResetRotatingColors();
+    void SetStopIncrementColor(int bStop);
+    int GetStopIncrementColor();
+    int SetCustomColors(DWORD* pColors);
+    int GetCustomColors(DWORD* pColors);
+    int ReleaseCustomColors();
+    int SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText);
+    int GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText);
+
+    // ---- axes/: limits, transforms, tic tables, layout ----------------------
+    void CalcXTicValues();
+    void CalcYTicValues(int nAxis);
+    void CalcTicMarkPixels();
+    int SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis);
+    int GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight);
+    // (axes section)
+
+    // ---- interact/: notifications, tools, legend ----------------------------
+    void RemoveAllFloatingLabels();
+    // (interact section)
+
+    // ---- render/: the plot pipeline and drawers -----------------------------
+    int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
+    int RemoveReferenceLine(CString strName);
+    int RemoveAllReferenceLines();
+    // (render section)
+
+protected:
+    // ---- graph/ ---------------------------------------------------------------
+    void InitMemberVariables(CWnd* pParent);
+    // Releases what the graph owns besides its series: tracker, reference
+    // lines and floating labels.
+    void DestroyOwnedTools();
+    int GetScrollRect(CRect& rect);
+    float ResolutionFromFormat(CString strFormat);
+
+    // ---- series/ ------------------------------------------------------------
+    int FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD crColor, int nLineStyle, int nAnnotate);
+    CPlotData* FindPlotData(const CString& strName);
+    void AddSeriesToLegend(CPlotData* pData);
+    void DestroyPlotData(CPlotData* pData);
+
+    // ---- axes/ (protected) --------------------------------------------------
+    // The plot rectangle of a new graph, from the metrics of its font.
+    void LayoutFirst(const TEXTMETRIC& tm);
+    // Places m_rectPlot and m_rectScroll in m_rectGraph by the margin rules.
+    void LayoutMargins(const TEXTMETRIC& tm, int nNumberWidth, BOOL bRightMargin, BOOL bFirstLayout);
+    // Takes a shown, docked legend off m_rectGraph.
+    void TakeOffLegend();
+    int GetAveWidthOfNumericChar(CDC* pDC);
+    CString GetMaxLenString();
+    // The extent of one series, as the limits stand.
+    void GetRadarValues(CPlotData* pData);
+    // (axes protected section)
+
+    // ---- interact/ (protected) ----------------------------------------------
+    // The marker line follows its series: removed with it, and kept on valid
+    // data when the series' arrays are replaced.
+    void OnSeriesRemoved(CPlotData* pData);
+    void OnSeriesDataReplaced(CPlotData* pData);
+    // Binds each floating label to this graph and places it by its data position.
+    void PlaceFloatingLabels();
+    // Moves every floating label to the pixels of its data position.
+    void UpdateAllFloatingLabelPositions();
+    // (interact protected section)
+
+    // ---- render/ (protected) ------------------------------------------------
+    // (render protected section)
+
+    // ---- message handlers ---------------------------------------------------
+    afx_msg void OnDestroy();
+    // (handlers section)
+    DECLARE_MESSAGE_MAP()
+
+public:
+    // ---- Fields, in declaration order ---------------------------------------
+    DWORD m_dwState;                  // mode bits GST_ of the mouse tools
+    bool m_bFGPlot;                   // foreground drawing under way (old consumer kernel only)
+    bool m_bBGPlot;                   // background drawing under way (likewise)
+    DWORD m_dwStyle;                  // style word GS_
+    CString m_strGraphTitle;          // title over the plot
+    CString m_strXAxisLabel;          // text under the X axis
+    CString m_strYAxisLabel[2];       // text beside each Y axis
+    CString m_strXAxisNumFmt;         // printf format of the X numbers
+    CString m_strYAxisNumFmt[2];      // the same for each Y axis
+    CRect m_rectGraph;                // the whole graph, less the docked legend
+    CRect m_rectPlot;                 // the plot rectangle, inclusive on all sides
+    CRect m_rectScroll;               // m_rectPlot with left and top one pixel in
+    CPoint m_ptContextMenu;           // screen position of the last context menu
+    int m_nGridPenWidth;              // pen width of frame, tics, grid and marks
+    COLORREF m_crBackground;          // background of the plot
+    int m_nAutoScaleMode;             // nonzero: Plot scales first
+    DWORD m_dwGridType;               // grid flags
+    COLORREF m_crGrid;                // colour of frame and grid
+    int m_dwGridStyle;                // pen style of the grid
+    int m_nGraphColorsMode;           // colour mode 1 to 3
+    CLineColor* m_pGraphColors;       // colour table, not owned
+    int m_nGraphColors;               // entries of that table
+    int m_nNextRotatingColor;         // next index in rotation
+    BOOL m_bStopIncrementColor;       // holds the rotation
+    double m_dXMax;                   // X value at the right edge of the plot
+    double m_dXMin;                   // X value at the left edge
+    double m_dYMax[2];                // Y value at the top edge
+    double m_dYMin[2];                // Y value at the bottom edge
+    CRect m_rectZoom;                 // corners of the rubber band
+    BOOL m_bZoomEnabled;              // rubber-band zoom allowed
+    BOOL m_bRightAxisDisplayed;       // the right axis is shown
+    double m_dXScale;                 // transform kept for PixelToDataXRpt
+    double m_dXOffset;
+    double m_dYScale[2];              // transforms kept for PixelToDataYRpt
+    double m_dYOffset[2];
+    int m_nXTicPixel[11];             // pixel of each X tic
+    int m_nYTicPixel[2][11];          // pixel of each Y tic
+    int m_nXTicCount;                 // index of the last X tic
+    int m_nYTicCount[2];              // index of the last Y tic
+    double m_dXTicValue[11];          // value of each X tic
+    double m_dYTicValue[2][11];       // value of each Y tic
+    int m_nXTicType;                  // 0 fixed tics, else floating tics
+    int m_nYTicType[2];
+    float m_fXResolution;             // smallest span of the X axis
+    float m_fYResolution[2];          // smallest span of each Y axis
+    CTypedPtrMap<CMapStringToOb, CString, CRefLineData*> m_mapRefLines;  // reference lines, owned
+    int m_nMinorTics;                 // minor tic switch
+    int m_nLogPixelsX;                // device resolution for minor tics
+    int m_nLogPixelsY;
+    int m_nMinorTicCount[3];          // minor tics per interval: X, left Y, right Y
+    MINORTICS m_MinorX;
+    MINORTICS m_MinorYLeft;
+    MINORTICS m_MinorYRight;
+    CMarkerLine* m_pMarkerLine;       // the marker line, owned
+    BOOL m_bPointsStale;              // the pixel arrays of the series are out of date
+    CFont m_font;                     // text font
+    LOGFONT m_logFont;                // its description (lfHeight in tenths of a point after SetLogFont)
+    int m_nPointSize;                 // size in tenths of a point
+    COLORREF m_crText;                // text colour
+    CString m_strFaceName;            // face name, as the archive keeps it
+    long m_lFontWeight;               // weight, as the archive keeps it
+    int m_bFontItalic;                // italic flag, as the archive keeps it
+    CGraphNotify* m_pNotify;          // notification sink, not owned
+    long m_lNotifyMask;               // wanted notifications
+    CTypedPtrMap<CMapStringToOb, CString, CPlotData*> m_mapPlotData;  // all series, owned
+    BOOL m_bMenuEnabled;              // context menu allowed
+    WORD m_wRadarType;                // radar flags
+    double m_dRadarXPercent;          // margin on X in percent
+    double m_dRadarYPercent;          // margin on Y in percent
+    BOOL m_bRadarPercentControls;     // limits page shows the percent controls
+    BOOL m_bRadarAxisControls;        // limits page shows the axis controls
+    CRect m_rectLimit[6];             // hit rectangles of the printed limits
+    CLegend m_legend;                 // the legend
+    HCURSOR m_hPlotCursor;            // cursor over the plot
+    CTypedPtrMap<CMapWordToOb, WORD, CFloatingLabel*> m_mapFloatingLabels;  // floating labels, owned
+    CRectTracker* m_pLabelTracker;    // tracker around the selected label, owned
+    CFloatingLabel* m_pSelectedLabel; // the selected label, valid while the tracker is set
+    UINT m_nCursorHitTest;            // last hit-test code
+    WORD m_wNextLabelId;              // raised by one before each new label
+    long m_lPropPageConfig;           // pages of the property sheet
+    CArray<CPropertyPage*, CPropertyPage*> m_aPropPages;  // host pages
+    CArray<DWORD, DWORD> m_aPropPageFlags;                // their identifiers
+    long m_lMenuConfig;               // entries of the context menu
+    CStringArray m_aMenuText;         // host menu texts
+    CArray<DWORD, DWORD> m_aMenuIds;  // their command identifiers
+    CArray<CWnd*, CWnd*> m_aMenuWnds; // their target windows
+    CArray<int, int> m_aMenuFlags;    // their positions
+    CCrossHair m_crossHair;           // the cross hair
+    CCriticalSection m_csPlotData;    // guards the series arrays
+    CString m_strMaxLenFormat;        // format that gives the widest number
+    CString m_strLastXNumFmt;         // X format at the last SizeGraph
+    CString m_strLastYNumFmt;         // left Y format at the last SizeGraph
+};

@@ -1,0 +1,55 @@
+// CLegend: the list box child of the graph window that names each series with
+// a sample of its look. CLegendData is the look of one entry.
+#pragma once
+
+#include "afx/afxctrl.h"
+
+class AFX_EXT_CLASS CLegendData : public CObject
+{
+public:
+    CLegendData();
+    COLORREF m_crLine;        // the series' line colour
+    int m_nLineStyle;         // its pen style
+    int m_nLineWidth;         // its pen width
+    int m_nAnnotate;          // its annotation mark, 0 for none
+    COLORREF m_crBackground;  // the graph's background when the entry was made
+};
+
+class AFX_EXT_CLASS CLegend : public CListBox
+{
+public:
+    CLegend();
+    virtual ~CLegend();
+
+    // Creates the (hidden) list window on a side: 1 top, 2 bottom, 3 left, 4 right.
+    BOOL Create(CWnd* pParent, int nPosition);
+    void Show(BOOL bShow);
+    BOOL IsShown() const { return m_bShown; }
+    BOOL GetAutoHide() const { return m_bAutoHide; }
+    int GetPosition() const { return m_nPosition; }
+
+    BOOL AddEntry(CString strName, COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground);
+    BOOL RemoveEntry(CString strName);
+    BOOL UpdateEntry(CString strName, COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground);
+    void Reposition();
+
+    int m_nPosition;     // side of the graph
+    CRect m_rectFull;    // the open rectangle, in the graph's client coordinates
+    BOOL m_bAutoHide;    // collapses to a sliver when the pointer leaves
+    BOOL m_bHidden;      // collapsed now
+    int m_nWidth;        // open width on the left and right sides
+    int m_nHeight;       // open height on the top and bottom sides
+    BOOL m_bInMenu;      // its context menu is up
+    BOOL m_bShown;       // the host or the user has the legend on
+    BOOL m_bSizing;      // a frame drag is under way
+
+protected:
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+    // Index of the entry of a series, -1 if none; names compare exactly.
+    int FindEntry(const CString& strName) const;
+
+private:
+    void FreeEntries();
+};

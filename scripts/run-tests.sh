@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Runs every test program through CTest under Wine, with a display. The
+# tests run under the Chinese locale (ANSI code page 936), the language of
+# the library's own resources.
+set -euo pipefail
+here="$(cd "$(dirname "$0")" && pwd)"
+build="${1:-build}"
+cd "$build"
+export LC_ALL=zh_CN.UTF-8
+exec "$here/withdisplay.sh" ctest --output-on-failure --timeout 300

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Runs a command with a display and a running Wine server: under xvfb-run
+# when there is no X display, directly otherwise. The Wine server is started
+# once and stopped at the end, so each program in between starts quickly.
+set -euo pipefail
+here="$(cd "$(dirname "$0")" && pwd)"
+. "$here/wineenv.sh"
+
+if [ -z "${DISPLAY:-}" ] && [ -z "${ZPX_IN_XVFB:-}" ]; then
+    export ZPX_IN_XVFB=1
+    exec xvfb-run -a -s "-screen 0 1280x1024x24" "$0" "$@"
+fi
+
+wineserver -p
+trap 'wineserver -k >/dev/null 2>&1 || true' EXIT
+# Start Wine's own background processes (services, the desktop window) now,
+# detached from our output: a test runner waits for every process that holds
+# its pipes, and these would live on after the test that started them.
+wine cmd /c exit >/dev/null 2>&1 </dev/null || true
+status=0
+"$@" || status=$?
+exit $status

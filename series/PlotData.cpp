@@ -1,0 +1,194 @@
+// CPlotData: conversion of double data to owned floats, the remembered point
+// labels and point highlights, and the release of everything a series owns.
+#include "series/PlotData.h"
+#include "render/AreaData.h"
+#include "render/HighlightRegionData.h"
+#include <mbstring.h>
+#include <string.h>
+
+namespace {
+
+// The largest float, as a double: values at or above it cannot be rounded.
+const double s_dFloatMax = 3.4028234663852886e38;
+
+float FloatFromBits(unsigned int nBits)
+{
+    float f;
+    memcpy(&f, &nBits, sizeof(f));
+    return f;
+}
+
+BOOL SameName(const CString& a, const CString& b)
+{
+    return _mbscmp((const unsigned char*)(LPCSTR)a, (const unsigned char*)(LPCSTR)b) == 0;
+}
+
+// Converts n doubles to floats; values at or above the largest float become
+// the replacement value. A branch-free select keeps the loop vectorisable.
+void ConvertToFloat(const double* pdSrc, float* pfDst, long n, float fReplacement)
+{
+    for (long i = 0; i < n; i++) {
+        double d = pdSrc[i];
+        pfDst[i] = d < s_dFloatMax || d != d ? (float)d : fReplacement;
+    }
+}
+
+} // namespace
+
+CPlotData::CPlotData()
+    : m_lPoints(0), m_crLine(0), m_nLineStyle(0), m_nLineWidth(1),
+      m_fXMin(0.0f), m_fXMax(0.0f), m_fYMin(0.0f), m_fYMax(0.0f),
+      m_pfXData(NULL), m_pfYData(NULL), m_bOwnXData(FALSE), m_bOwnYData(FALSE),
+      m_pdXData(NULL), m_pdYData(NULL), m_pPointArray(NULL), m_lPointCount(0), m_lStartIndex(0),
+      m_nYAxis(0), m_nAnnotate(0), m_listAreas(10), m_listHighlights(10), m_crAnnotate(0)
+{
+}
+
+CPlotData::~CPlotData()
+{
+    if (m_bOwnXData && m_pfXData != NULL)
+        delete[] m_pfXData;
+    if (m_bOwnYData && m_pfYData != NULL)
+        delete[] m_pfYData;
+    delete[] m_pPointArray;
+    while (!m_listAreas.IsEmpty())
+        delete m_listAreas.RemoveHead();   // the area deletes both of its brushes
+    while (!m_listHighlights.IsEmpty())
+        delete m_listHighlights.RemoveHead();
+}
+
+int CPlotData::SetDoubleData(double* pdX, double* pdY, long lPoints)
+{
+    m_pdXData = pdX;
+    m_pdYData = pdY;
+    m_lPoints = lPoints;
+    size_t nCount = lPoints > 0 ? (size_t)lPoints : 0;
+    try {
+        if (m_bOwnXData && m_pfXData != NULL) {
+            delete[] m_pfXData;
+            m_pfXData = NULL;
+        }
+        m_pfXData = new float[nCount];
+        m_bOwnXData = TRUE;
+        if (m_bOwnYData && m_pfYData != NULL) {
+            delete[] m_pfYData;
+            m_pfYData = NULL;
+        }
+        m_pfYData = new float[nCount];
+        m_bOwnYData = TRUE;
+    } catch (CException* e) {
+        e->Delete();
+        return 0;
+    }
+    ConvertToFloat(pdX, m_pfXData, lPoints, FloatFromBits(PLOTDATA_X_OVERFLOW_BITS));
+    ConvertToFloat(pdY, m_pfYData, lPoints, FloatFromBits(PLOTDATA_Y_OVERFLOW_BITS));
+    m_pdXData = NULL;
+    m_pdYData = NULL;
+    return 1;
+}
+
+int CPlotData::SetAnnotateColor(COLORREF crAnnotate)
+{
+    m_crAnnotate = crAnnotate;
+    return 1;
+}
+
+COLORREF CPlotData::GetAnnotateColor()
+{
+    return m_crAnnotate;
+}
+
+int CPlotData::FindLabel(const CString& strName) const
+{
+    for (int i = 0; i < m_aLabelNames.GetSize(); i++) {
+        if (SameName(m_aLabelNames[i], strName))
+            return i;
+    }
+    return -1;
+}
+
+int CPlotData::AddLabel(const CString& strName, double x, double y, int nStyle, const CString& strText)
+{
+    int i = FindLabel(strName);
+    if (i < 0) {
+        m_aLabelNames.Add(strName);
+        m_aLabelTexts.Add(strText);
+        m_aLabelX.Add(x);
+        m_aLabelY.Add(y);
+        m_aLabelStyles.Add(nStyle);
+    } else {
+        m_aLabelTexts[i] = strText;
+        m_aLabelX[i] = x;
+        m_aLabelY[i] = y;
+        m_aLabelStyles[i] = nStyle;
+    }
+    m_crAnnotate = m_crLine;
+    return 1;
+}
+
+int CPlotData::RemoveLabel(const CString& strName)
+{
+    int i = FindLabel(strName);
+    if (i < 0)
+        return 0;
+    m_aLabelNames.RemoveAt(i);
+    m_aLabelTexts.RemoveAt(i);
+    m_aLabelX.RemoveAt(i);
+    m_aLabelY.RemoveAt(i);
+    m_aLabelStyles.RemoveAt(i);
+    return 1;
+}
+
+void CPlotData::RemoveAllLabels()
+{
+    m_aLabelNames.RemoveAll();
+    m_aLabelTexts.RemoveAll();
+    m_aLabelX.RemoveAll();
+    m_aLabelY.RemoveAll();
+    m_aLabelStyles.RemoveAll();
+}
+
+int CPlotData::FindPointHighlight(const CString& strName) const
+{
+    for (int i = 0; i < m_aPointHighlightNames.GetSize(); i++) {
+        if (SameName(m_aPointHighlightNames[i], strName))
+            return i;
+    }
+    return -1;
+}
+
+int CPlotData::AddPointHighlight(const CString& strName, double x, double y, int nMarker)
+{
+    int i = FindPointHighlight(strName);
+    if (i < 0) {
+        m_aPointHighlightNames.Add(strName);
+        m_aPointHighlightX.Add(x);
+        m_aPointHighlightY.Add(y);
+        m_aPointHighlightStyles.Add(nMarker);
+    } else {
+        m_aPointHighlightX[i] = x;
+        m_aPointHighlightY[i] = y;
+        m_aPointHighlightStyles[i] = nMarker;
+    }
+    return 1;
+}
+
+int CPlotData::RemovePointHighlight(const CString& strName)
+{
+    int i = FindPointHighlight(strName);
+    if (i < 0)
+        return 0;
+    m_aPointHighlightNames.RemoveAt(i);
+    m_aPointHighlightX.RemoveAt(i);
+    m_aPointHighlightY.RemoveAt(i);
+    m_aPointHighlightStyles.RemoveAt(i);
+    return 1;
+}
+
+void CPlotData::RemoveAllPointHighlights()
+{
+    m_aPointHighlightNames.RemoveAll();
+    m_aPointHighlightX.RemoveAll();
+    m_aPointHighlightY.RemoveAll();
+    m_aPointHighlightStyles.RemoveAll();
+}
