@@ -24,10 +24,15 @@ HINSTANCE FindInChain(LPCSTR lpszName, LPCSTR lpszType)
     HINSTANCE hInst = AfxGetResourceHandle();
     if (::FindResourceA(hInst, lpszName, lpszType) != NULL)
         return hInst;
-    for (CDynLinkLibrary* pDLL = State().pFirstDLL; pDLL != NULL; pDLL = pDLL->m_pNextDLL) {
-        if (!pDLL->m_bSystem && pDLL->m_hResource != NULL &&
-            ::FindResourceA(pDLL->m_hResource, lpszName, lpszType) != NULL)
-            return pDLL->m_hResource;
+    // The links of ordinary libraries first, then those of system libraries,
+    // each group from the head of the chain.
+    for (int nPass = 0; nPass < 2; nPass++) {
+        BOOL bSystem = nPass == 1;
+        for (CDynLinkLibrary* pDLL = State().pFirstDLL; pDLL != NULL; pDLL = pDLL->m_pNextDLL) {
+            if (!pDLL->m_bSystem == !bSystem && pDLL->m_hResource != NULL &&
+                ::FindResourceA(pDLL->m_hResource, lpszName, lpszType) != NULL)
+                return pDLL->m_hResource;
+        }
     }
     return hInst;
 }

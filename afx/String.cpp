@@ -2,6 +2,7 @@
 // and comparisons go through the multibyte functions of the C run time, so a
 // trail byte of a double-byte character never matches on its own.
 #include "afx/afx.h"
+#include <mbctype.h>
 #include <mbstring.h>
 #include <stdarg.h>
 #include <stdio.h>
@@ -10,6 +11,13 @@
 
 namespace {
 char g_chNil[1] = { '\0' };   // shared text of every empty string; never written
+
+// The next character: two bytes for a lead byte, but never past the end
+// when a string ends in a lone lead byte.
+const unsigned char* NextChar(const unsigned char* p)
+{
+    return _ismbblead(*p) && p[1] != '\0' ? p + 2 : p + 1;
+}
 }
 
 CString::CString() : m_pchData(g_chNil), m_nDataLength(0), m_nAllocLength(0) {}
@@ -270,14 +278,34 @@ CString CString::Right(int nCount) const
     return CString(m_pchData + m_nDataLength - nCount, nCount);
 }
 
+// The length of the leading run of characters that are (bInSet) or are not
+// in the set. Walked here by characters: not every run time's _mbsspn and
+// _mbscspn honour double-byte characters (Wine's _mbscspn is a strcspn).
+static int SpanLength(LPCSTR lpsz, LPCSTR lpszCharSet, bool bInSet)
+{
+    const unsigned char* pSet = (const unsigned char*)(lpszCharSet != NULL ? lpszCharSet : "");
+    const unsigned char* p = (const unsigned char*)lpsz;
+    while (*p != '\0') {
+        const unsigned char* pNext = NextChar(p);
+        size_t nLen = (size_t)(pNext - p);
+        bool bFound = false;
+        for (const unsigned char* q = pSet; *q != '\0' && !bFound; q = NextChar(q))
+            bFound = (size_t)(NextChar(q) - q) == nLen && memcmp(p, q, nLen) == 0;
+        if (bFound != bInSet)
+            break;
+        p = pNext;
+    }
+    return (int)((const char*)p - lpsz);
+}
+
 CString CString::SpanIncluding(LPCSTR lpszCharSet) const
 {
-    return Left((int)_mbsspn((const unsigned char*)m_pchData, (const unsigned char*)lpszCharSet));
+    return Left(SpanLength(m_pchData, lpszCharSet, true));
 }
 
 CString CString::SpanExcluding(LPCSTR lpszCharSet) const
 {
-    return Left((int)_mbscspn((const unsigned char*)m_pchData, (const unsigned char*)lpszCharSet));
+    return Left(SpanLength(m_pchData, lpszCharSet, false));
 }
 
 void CString::MakeUpper()
@@ -310,7 +338,7 @@ void CString::TrimRight()
         } else {
             pLast = NULL;
         }
-        p = _mbsinc(p);
+        p = NextChar(p);
     }
     if (pLast != NULL) {
         int nNewLen = (int)(pLast - (const unsigned char*)m_pchData);
@@ -352,8 +380,18 @@ int CString::FindOneOf(LPCSTR lpszCharSet) const
 
 int CString::Find(LPCSTR lpszSub) const
 {
-    const unsigned char* p = _mbsstr((const unsigned char*)m_pchData, (const unsigned char*)lpszSub);
-    return p == NULL ? -1 : (int)((const char*)p - m_pchData);
+    // A match may start only at the start of a character. Walked here by
+    // characters: not every run time's _mbsstr honours double-byte
+    // characters (Wine's is a plain strstr).
+    if (lpszSub == NULL)
+        return -1;
+    size_t nSub = strlen(lpszSub);
+    for (const unsigned char* p = (const unsigned char*)m_pchData;; p = NextChar(p)) {
+        if (strncmp((const char*)p, lpszSub, nSub) == 0)
+            return (int)((const char*)p - m_pchData);
+        if (*p == '\0')
+            return -1;
+    }
 }
 
 void AFX_CDECL CString::Format(LPCSTR lpszFormat, ...)

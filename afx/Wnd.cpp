@@ -4,6 +4,7 @@
 #include "afx/afxwnd.h"
 #include "afx/afxmodule.h"
 #include <stdio.h>
+#include <string.h>
 
 namespace {
 
@@ -23,6 +24,39 @@ public:
 };
 thread_local CTempWnd t_tempWnds[8];
 thread_local int t_nNextTemp = 0;
+
+// DestroyWindow watches for the WM_NCDESTROY of its own object: after it the
+// object is unbound and may have deleted itself in PostNcDestroy, so it must
+// not be touched any more. Nested calls each have their own record.
+struct DestroyWatch
+{
+    CWnd* pWnd;
+    bool bNcDestroyed;
+    DestroyWatch* pPrev;
+};
+thread_local DestroyWatch* t_pDestroyWatch = NULL;
+
+// What a window procedure answers after a handler threw: a window that fails
+// in WM_CREATE is not made, and a failed WM_PAINT validates the window, or
+// the system would send WM_PAINT again for ever.
+LRESULT ResultAfterException(HWND hWnd, UINT nMsg)
+{
+    if (nMsg == WM_CREATE)
+        return -1;
+    if (nMsg == WM_PAINT)
+        ::ValidateRect(hWnd, NULL);
+    return 0;
+}
+
+// The input method may make a window of its own while another is created;
+// the creation hook leaves it alone.
+bool IsImeWindow(HWND hWnd)
+{
+    if (::GetClassLongA(hWnd, GCL_STYLE) & CS_IME)
+        return true;
+    char szClass[8];
+    return ::GetClassNameA(hWnd, szClass, sizeof(szClass)) > 0 && lstrcmpiA(szClass, "ime") == 0;
+}
 
 } // namespace
 
@@ -178,7 +212,7 @@ HWND CWnd::UnsubclassWindow()
 
 LRESULT CALLBACK AfxCbtFilterHook(int code, WPARAM wParam, LPARAM lParam)
 {
-    if (code == HCBT_CREATEWND && t_pWndInit != NULL) {
+    if (code == HCBT_CREATEWND && t_pWndInit != NULL && !IsImeWindow((HWND)wParam)) {
         // The first window made after CreateEx armed the hook is its window.
         CWnd* pWnd = t_pWndInit;
         t_pWndInit = NULL;
@@ -216,16 +250,20 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName
     HWND hWnd = ::CreateWindowExA(cs.dwExStyle, cs.lpszClass, cs.lpszName, (DWORD)cs.style,
                                   cs.x, cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu,
                                   cs.hInstance, cs.lpCreateParams);
+    // The hook clears t_pWndInit when it binds the window to this object.
+    BOOL bBound = t_pWndInit != this;
     if (t_hHookCbt != NULL)
         ::UnhookWindowsHookEx(t_hHookCbt);
     t_hHookCbt = hOldHook;
     t_pWndInit = pOldInit;
 
     if (hWnd == NULL) {
-        // A window that failed in WM_CREATE has been destroyed already.
-        if (m_hWnd != NULL)
-            Detach();
-        m_pfnSuper = NULL;
+        // A window that failed in WM_NCCREATE or WM_CREATE was bound and has
+        // been destroyed again: its WM_NCDESTROY unbound this object and ran
+        // PostNcDestroy, after which the object may be gone. A window that
+        // was never made gets the final clean-up here.
+        if (!bBound)
+            PostNcDestroy();
         return FALSE;
     }
     ASSERT(hWnd == m_hWnd);
@@ -245,9 +283,13 @@ BOOL CWnd::DestroyWindow()
     if (m_hWnd == NULL)
         return FALSE;
     HWND hWnd = m_hWnd;
+    DestroyWatch watch = { this, false, t_pDestroyWatch };
+    t_pDestroyWatch = &watch;
     BOOL bResult = ::DestroyWindow(hWnd);
-    // A window bound without our procedure never sees WM_NCDESTROY here.
-    if (m_hWnd == hWnd)
+    t_pDestroyWatch = watch.pPrev;
+    // After its WM_NCDESTROY the object may have deleted itself. A window
+    // bound without our procedure never sees WM_NCDESTROY: unbind it here.
+    if (!watch.bNcDestroyed && m_hWnd == hWnd)
         Detach();
     return bResult;
 }
@@ -349,8 +391,10 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
         // Nothing escapes a window procedure.
         TRACE("AfxWndProc: exception in the handler of message 0x%04X\n", nMsg);
         e->Delete();
+        lResult = ResultAfterException(hWnd, nMsg);
     } catch (...) {
         TRACE("AfxWndProc: unknown exception in the handler of message 0x%04X\n", nMsg);
+        lResult = ResultAfterException(hWnd, nMsg);
     }
 
     t_lastSentMsg = oldMsg;
@@ -457,8 +501,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
             FromHandle((HWND)wParam), CPoint((short)LOWORD(lParam), (short)HIWORD(lParam)));
         break;
     case AfxSig_vwii:
+        // Sizes: unsigned 16-bit values.
         (this->*reinterpret_cast<void (CWnd::*)(UINT, int, int)>(pfn))(
-            (UINT)wParam, (short)LOWORD(lParam), (short)HIWORD(lParam));
+            (UINT)wParam, LOWORD(lParam), HIWORD(lParam));
         break;
     case AfxSig_vwww:
         (this->*reinterpret_cast<void (CWnd::*)(UINT, UINT, UINT)>(pfn))(
@@ -503,6 +548,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     HWND hWndCtrl = (HWND)lParam;
     int nCode = HIWORD(wParam);
     if (hWndCtrl == NULL) {
+        if (nID == 0)
+            return FALSE;   // no command has the id 0
         nCode = 0;   // menu or accelerator: a plain command
     } else {
         if (ReflectLastMsg(hWndCtrl))
@@ -654,6 +701,11 @@ void CWnd::OnNcDestroy()
         m_pfnSuper = NULL;
     }
     Detach();
+    // A DestroyWindow of this object that is under way must not touch it again.
+    for (DestroyWatch* pWatch = t_pDestroyWatch; pWatch != NULL; pWatch = pWatch->pPrev) {
+        if (pWatch->pWnd == this)
+            pWatch->bNcDestroyed = true;
+    }
     PostNcDestroy();
 }
 
@@ -661,9 +713,41 @@ void CWnd::OnNcDestroy()
 // Window classes
 // ---------------------------------------------------------------------------
 
+namespace {
+
+// Names of the classes registered here. A returned name is never written
+// again, so a caller may keep it for the life of the library; the table is
+// static storage, with a per-thread buffer behind it should it ever fill up.
+const int kMaxClassNames = 64;
+char s_szClassNames[kMaxClassNames][96];
+int s_nClassNames = 0;
+SRWLOCK s_lockClassNames = SRWLOCK_INIT;
+
+LPCSTR KeepClassName(LPCSTR lpszName)
+{
+    LPCSTR lpszKept = NULL;
+    ::AcquireSRWLockExclusive(&s_lockClassNames);
+    for (int i = 0; i < s_nClassNames && lpszKept == NULL; i++) {
+        if (strcmp(s_szClassNames[i], lpszName) == 0)
+            lpszKept = s_szClassNames[i];
+    }
+    if (lpszKept == NULL && s_nClassNames < kMaxClassNames) {
+        lstrcpynA(s_szClassNames[s_nClassNames], lpszName, sizeof(s_szClassNames[0]));
+        lpszKept = s_szClassNames[s_nClassNames++];
+    }
+    ::ReleaseSRWLockExclusive(&s_lockClassNames);
+    if (lpszKept != NULL)
+        return lpszKept;
+    thread_local char t_szName[96];
+    lstrcpynA(t_szName, lpszName, sizeof(t_szName));
+    return t_szName;
+}
+
+} // namespace
+
 LPCSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon)
 {
-    thread_local char szName[96];
+    char szName[96];
     HINSTANCE hInst = AfxGetInstanceHandle();
     _snprintf(szName, sizeof(szName) - 1, "Afx:%p:%x:%p:%p:%p", (void*)hInst, nClassStyle,
               (void*)hCursor, (void*)hbrBackground, (void*)hIcon);
@@ -671,7 +755,7 @@ LPCSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrB
 
     WNDCLASSA wc;
     if (::GetClassInfoA(hInst, szName, &wc))
-        return szName;   // registered before with the same attributes
+        return KeepClassName(szName);   // registered before with the same attributes
 
     memset(&wc, 0, sizeof(wc));
     wc.style = nClassStyle;
@@ -683,5 +767,5 @@ LPCSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrB
     wc.lpszClassName = szName;
     if (!::RegisterClassA(&wc))
         AfxThrowResourceException();
-    return szName;
+    return KeepClassName(szName);
 }

@@ -90,37 +90,41 @@ int CGraphPrv::ReSizeGraph(CRect* pRect)
     if (m_hWnd == NULL)
         return 0;
 
-    TEXTMETRIC tm;
-    int D, S;
-    CClientDC dc(this);
     {
-        CSelectGuard selectFont(&dc, &m_font);
-        dc.GetTextMetrics(&tm);
-        D = GetAveWidthOfNumericChar(&dc) + tm.tmOverhang;
-        S = dc.GetTextExtent(GetMaxLenString()).cx;
-    }
+        // The metrics of the graph's font on the window: line height, the
+        // width of a digit D (with the overhang) and of the widest number S.
+        CClientDC dc(this);
+        TEXTMETRIC tm;
+        int D, S;
+        {
+            CSelectGuard selectFont(&dc, &m_font);
+            dc.GetTextMetrics(&tm);
+            D = GetAveWidthOfNumericChar(&dc) + tm.tmOverhang;
+            S = dc.GetTextExtent(GetMaxLenString()).cx;
+        }
 
-    MoveWindow(pRect, TRUE);
-    GetClientRect(&m_rectGraph);
-    TakeOffLegend();
-    LayoutMargins(tm, S, (m_dwStyle & GS_RIGHTAXIS) != 0, FALSE);
+        MoveWindow(pRect, TRUE);
+        GetClientRect(&m_rectGraph);
+        TakeOffLegend();
+        LayoutMargins(tm, S, (m_dwStyle & GS_RIGHTAXIS) != 0, FALSE);
 
-    // Too low or too narrow for the margins: the plot takes the whole graph.
-    const int L = LineHeight(tm);
-    if (m_rectPlot.bottom - m_rectPlot.top < 3 * L) {
-        m_rectPlot.top = m_rectGraph.top;
-        m_rectPlot.bottom = m_rectGraph.bottom - 1;
-    }
-    if (m_rectPlot.right - m_rectPlot.left < 3 * (D + tm.tmOverhang)) {
-        m_rectPlot.left = m_rectGraph.left;
-        m_rectPlot.right = m_rectGraph.right - 1;
-    }
-    m_rectScroll = m_rectPlot;
-    m_rectScroll.left += 1;
-    m_rectScroll.top += 1;
+        // Too low or too narrow for the margins: the plot takes the whole graph.
+        const int L = LineHeight(tm);
+        if (m_rectPlot.bottom - m_rectPlot.top < 3 * L) {
+            m_rectPlot.top = m_rectGraph.top;
+            m_rectPlot.bottom = m_rectGraph.bottom - 1;
+        }
+        if (m_rectPlot.right - m_rectPlot.left < 3 * (D + tm.tmOverhang)) {
+            m_rectPlot.left = m_rectGraph.left;
+            m_rectPlot.right = m_rectGraph.right - 1;
+        }
+        m_rectScroll = m_rectPlot;
+        m_rectScroll.left += 1;
+        m_rectScroll.top += 1;
 
-    CalcTicMarkPixels();
-    m_bPointsStale = TRUE;
+        CalcTicMarkPixels();
+        m_bPointsStale = TRUE;
+    }
 
     m_legend.Reposition();
     UpdateAllFloatingLabelPositions();

@@ -1,1 +1,2 @@
+// Placeholder until the graph draws.
 int main() { return 0; }

@@ -83,10 +83,51 @@ int CGraph::SetLogFont(LOGFONT* pLogFont, int nPointSize, DWORD crText) { return
 int CGraph::GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText) { return m_pGraphPrv->GetLogFont(pLogFont, pnPointSize, pcrText); }
 
 // Axes
+int CGraph::SetXAxisLimits(double dMin, double dMax) { return m_pGraphPrv->SetXAxisLimits(dMin, dMax); }
+int CGraph::GetXAxisLimits(double* pdMin, double* pdMax) { return m_pGraphPrv->GetXAxisLimits(pdMin, pdMax); }
+int CGraph::SetYAxisLimits(double dMin, double dMax, int nAxis) { return m_pGraphPrv->SetYAxisLimits(dMin, dMax, nAxis); }
+int CGraph::GetYAxisLimits(double* pdMin, double* pdMax, int nAxis) { return m_pGraphPrv->GetYAxisLimits(pdMin, pdMax, nAxis); }
+int CGraph::SetLimitFlip(DWORD dwFlags) { return m_pGraphPrv->SetLimitFlip(dwFlags); }
+int CGraph::GetLimitFlip(DWORD* pdwFlags) { return m_pGraphPrv->GetLimitFlip(pdwFlags); }
+int CGraph::SetAutoScaleMode(int nMode) { return m_pGraphPrv->SetAutoScaleMode(nMode); }
+int CGraph::SetTicMarkType(int nTicType, int nMinorTics, CDC* pDC) { return m_pGraphPrv->SetTicMarkType(nTicType, nMinorTics, pDC); }
+int CGraph::GetTicMarkType(int* pnTicType, int* pnMinorTics) { return m_pGraphPrv->GetTicMarkType(pnTicType, pnMinorTics); }
+int CGraph::ReSizeGraph(CRect* pRect) { return m_pGraphPrv->ReSizeGraph(pRect); }
+int CGraph::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis)
+    { return m_pGraphPrv->SizeGraph(pDC, x, y, nWidth, nHeight, bRightAxis); }
+int CGraph::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
+    { return m_pGraphPrv->GetMinimumGraphSize(pDC, pnWidth, pnHeight); }
+int CGraph::DataToPixelX(double dX) { return m_pGraphPrv->DataToPixelX(dX); }
+int CGraph::DataToPixelY(double dY, int nAxis) { return m_pGraphPrv->DataToPixelY(dY, nAxis); }
+double CGraph::PixelToDataX(int nX) { return m_pGraphPrv->PixelToDataX(nX); }
+double CGraph::PixelToDataY(int nY, int nAxis) { return m_pGraphPrv->PixelToDataY(nY, nAxis); }
+double CGraph::PixelToDataXRpt(int nX) { return m_pGraphPrv->PixelToDataXRpt(nX); }
+double CGraph::PixelToDataYRpt(int nY, int nAxis) { return m_pGraphPrv->PixelToDataYRpt(nY, nAxis); }
 // (axes section)
 
 // Interaction
+int CGraph::EnableMenu(int bEnable) { return m_pGraphPrv->EnableMenu(bEnable); }
+int CGraph::SetMenuConfiguration(long lConfig) { return m_pGraphPrv->SetMenuConfiguration(lConfig); }
+int CGraph::AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pWnd)
+    { return m_pGraphPrv->AddMenuItem(strText, dwId, nPosition, pWnd); }
+int CGraph::RemoveMenuItem(DWORD dwId) { return m_pGraphPrv->RemoveMenuItem(dwId); }
+int CGraph::RemoveAllMenuItems() { return m_pGraphPrv->RemoveAllMenuItems(); }
+int CGraph::AddPropertyPage(CPropertyPage* pPage, DWORD dwId) { return m_pGraphPrv->AddPropertyPage(pPage, dwId); }
+int CGraph::RemovePropertyPage(DWORD dwId) { return m_pGraphPrv->RemovePropertyPage(dwId); }
+int CGraph::SetPropertyPageConfiguration(long lConfig) { return m_pGraphPrv->SetPropertyPageConfiguration(lConfig); }
+int CGraph::EnableNotifications(CGraphNotify* pNotify, long lMask) { return m_pGraphPrv->EnableNotifications(pNotify, lMask); }
 // (interact section)
 
 // Drawing
+int CGraph::ShowGrid(DWORD dwGridType) { return m_pGraphPrv->ShowGrid(dwGridType); }
+int CGraph::SetGridAttributes(DWORD dwGridType, DWORD crColor, int nStyle)
+    { return m_pGraphPrv->SetGridAttributes(dwGridType, crColor, nStyle); }
+int CGraph::GetGridAttributes(DWORD* pdwGridType, DWORD* pcrColor, int* pnStyle)
+    { return m_pGraphPrv->GetGridAttributes(pdwGridType, pcrColor, pnStyle); }
+int CGraph::PlotLine(double x1, double y1, double x2, double y2, DWORD crColor, int nStyle, int nYAxis)
+    { return m_pGraphPrv->PlotLine(x1, y1, x2, y2, crColor, nStyle, nYAxis); }
+int CGraph::AddReferenceLine(CString strName, DWORD dwFlags, double dPosition)
+    { return m_pGraphPrv->AddReferenceLine(strName, dwFlags, dPosition); }
+int CGraph::RemoveReferenceLine(CString strName) { return m_pGraphPrv->RemoveReferenceLine(strName); }
+int CGraph::RemoveAllReferenceLines() { return m_pGraphPrv->RemoveAllReferenceLines(); }
 // (render section)

@@ -9,6 +9,7 @@
 #include "persist/LineColor.h"
 
 class CGraphPrv;
+class CPropertyPage;
 
 // Call once after loading the library, before the first CGraph: finds the
 // resource satellite of the thread's locale and joins the resource chain.
@@ -76,12 +77,49 @@ public:
     int GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText);
 
     // ---- Axes -----------------------------------------------------------------
+    int SetXAxisLimits(double dMin, double dMax);
+    int GetXAxisLimits(double* pdMin, double* pdMax);
+    int SetYAxisLimits(double dMin, double dMax, int nAxis);
+    int GetYAxisLimits(double* pdMin, double* pdMax, int nAxis);
+    int SetLimitFlip(DWORD dwFlags);
+    int GetLimitFlip(DWORD* pdwFlags);
+    int SetAutoScaleMode(int nMode);
+    int SetTicMarkType(int nTicType, int nMinorTics, CDC* pDC);
+    int GetTicMarkType(int* pnTicType, int* pnMinorTics);
+    // Layout for the window, for a device context, and the smallest usable size.
+    int ReSizeGraph(CRect* pRect);
+    int SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis);
+    int GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight);
+    // Transforms between data values and pixels; the Rpt forms reuse the
+    // transform of the last PixelToDataX / PixelToDataY.
+    int DataToPixelX(double dX);
+    int DataToPixelY(double dY, int nAxis);
+    double PixelToDataX(int nX);
+    double PixelToDataY(int nY, int nAxis);
+    double PixelToDataXRpt(int nX);
+    double PixelToDataYRpt(int nY, int nAxis);
     // (axes section)
 
     // ---- Interaction ----------------------------------------------------------
+    int EnableMenu(int bEnable);
+    int SetMenuConfiguration(long lConfig);
+    int AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pWnd);
+    int RemoveMenuItem(DWORD dwId);
+    int RemoveAllMenuItems();
+    int AddPropertyPage(CPropertyPage* pPage, DWORD dwId);
+    int RemovePropertyPage(DWORD dwId);
+    int SetPropertyPageConfiguration(long lConfig);
+    int EnableNotifications(CGraphNotify* pNotify, long lMask);
     // (interact section)
 
     // ---- Drawing --------------------------------------------------------------
+    int ShowGrid(DWORD dwGridType);
+    int SetGridAttributes(DWORD dwGridType, DWORD crColor, int nStyle);
+    int GetGridAttributes(DWORD* pdwGridType, DWORD* pcrColor, int* pnStyle);
+    int PlotLine(double x1, double y1, double x2, double y2, DWORD crColor, int nStyle, int nYAxis);
+    int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
+    int RemoveReferenceLine(CString strName);
+    int RemoveAllReferenceLines();
     // (render section)
 
     CGraphPrv* m_pGraphPrv;   // the implementation, made here, destroyed here, never replaced

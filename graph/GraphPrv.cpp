@@ -10,6 +10,7 @@ IMPLEMENT_DYNCREATE(CGraphPrv, CWnd)
 
 BEGIN_MESSAGE_MAP(CGraphPrv, CWnd)
     ON_WM_DESTROY()
+    ON_WM_PAINT()
     // (message map entries)
 END_MESSAGE_MAP()
 
@@ -34,6 +35,12 @@ CGraphPrv::CGraphPrv()
     m_nYTicCount[0] = m_nYTicCount[1] = 0;
     m_nYTicType[0] = m_nYTicType[1] = 1;
     m_fYResolution[0] = m_fYResolution[1] = 0.0f;
+    // Filled by the first tic pixel computation; zero until then so that no
+    // copy of one axis to another reads indeterminate values.
+    memset(m_nMinorTicCount, 0, sizeof(m_nMinorTicCount));
+    memset(&m_MinorX, 0, sizeof(m_MinorX));
+    memset(&m_MinorYLeft, 0, sizeof(m_MinorYLeft));
+    memset(&m_MinorYRight, 0, sizeof(m_MinorYRight));
 
     g_bGraphCreated = TRUE;
 

@@ -99,21 +99,120 @@ public:
     int GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText);
 
     // ---- axes/: limits, transforms, tic tables, layout ----------------------
-    void CalcXTicValues();
-    void CalcYTicValues(int nAxis);
-    void CalcTicMarkPixels();
+    int SetXAxisLimits(double dMin, double dMax);
+    int GetXAxisLimits(double* pdMin, double* pdMax);
+    int SetYAxisLimits(double dMin, double dMax, int nAxis);
+    int GetYAxisLimits(double* pdMin, double* pdMax, int nAxis);
+    int SetLimitFlip(DWORD dwFlags);
+    int GetLimitFlip(DWORD* pdwFlags);
+    int SetAutoScaleMode(int nMode);
+    int SetTicMarkType(int nTicType, int nMinorTics, CDC* pDC);
+    int GetTicMarkType(int* pnTicType, int* pnMinorTics);
     int SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis);
     int GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight);
+    // Transforms between data values and pixels. The Rpt forms reuse the
+    // transform kept by the last PixelToDataX / PixelToDataY.
+    int DataToPixelX(double dX);
+    int DataToPixelY(double dY, int nAxis);
+    double PixelToDataX(int nX);
+    double PixelToDataY(int nY, int nAxis);
+    double PixelToDataXRpt(int nX);
+    double PixelToDataYRpt(int nY, int nAxis);
+    // Tic tables and pixels, recomputed after every limit or layout change.
+    void CalcXTicValues();
+    void CalcYTicValues(int nAxis);
+    int CalcFloatingTics(double dFirst, double dSecond, double* pdTable);
+    void CalcTicMarkPixels();
+    int NumberOfMinorTicMarks(int nSpacing, int nDotsPerInch);
+    // Limits as the editors, the zoom and the scaling set them (max first).
+    void sg_xrange(double dMax, double dMin);
+    void sg_yrange(double dMax, double dMin, int nAxis);
+    void HorzXform(double* pdScale, double* pdOffset);
+    void VertXform(double* pdScale, double* pdOffset, int nAxis);
+    // The pixels of all points of a series, into pPoints (m_lPoints entries).
+    void XformPlotData(CPlotData* pData, POINT* pPoints);
+    int IsPointInPlotRect(double& dValue, int nKind);
+    int IsPointInPlotRect(int& nPixel, int nKind);
     // (axes section)
 
     // ---- interact/: notifications, tools, legend ----------------------------
     void RemoveAllFloatingLabels();
+    // Host entries of the context menu and host pages of the property sheet.
+    int EnableMenu(int bEnable);
+    int SetMenuConfiguration(long lConfig);
+    int AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pWnd);
+    int RemoveMenuItem(DWORD dwId);
+    int RemoveAllMenuItems();
+    int AddPropertyPage(CPropertyPage* pPage, DWORD dwId);
+    int RemovePropertyPage(DWORD dwId);
+    int SetPropertyPageConfiguration(long lConfig);
+    // The host's notification sink and the notifications it wants (GN_ bits).
+    int EnableNotifications(CGraphNotify* pNotify, long lMask);
+    // Calls on the sink. The message handlers, the tools and the property
+    // sheet call these; they stand here in the open so that tests reach them.
+    // Codes are int, host page identifiers UINT: a call picks by the type.
+    void NotifyApplication(int nCode);
+    void NotifyApplication(UINT wParam, long lParam);
+    void NotifyApplication(UINT nMessage, UINT nFlags, CPoint point);
+    void NotifyApplication(UINT nPageId);
+    void NotifyApplication(CPoint point);
     // (interact section)
 
     // ---- render/: the plot pipeline and drawers -----------------------------
     int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
     int RemoveReferenceLine(CString strName);
     int RemoveAllReferenceLines();
+    // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when
+    // some part is visible. dwFlags gets CLIP_MOVED_FIRST / CLIP_MOVED_SECOND.
+    int ClipDrawLine(const CRect& rect, POINT& pt1, POINT& pt2, DWORD& dwFlags);
+    // Draws the open polyline clipped to m_rectPlot, in runs of at most 1000
+    // points; 0 when the last device call that counts succeeded, else 1.
+    int Polyline_Win98_Workaround(CDC* pDC, POINT* pPoints, int nCount);
+    // The same walk with its device calls sent to sink (render/PolylineClip.h).
+    int DrawClippedPolyline(class CPolylineSink& sink, const POINT* pPoints, int nCount);
+    // The series' pixel array from its data, consecutive duplicates dropped,
+    // highlight region edges moved onto the reduced array.
+    void OptimizePoints(CPlotData* pPlotData);
+    // True on the Windows 9x family (top bit of GetVersion).
+    bool IsWin98();
+    // 1 when pDC draws in colour, 0 for black and white.
+    int IsColorDevice(CDC* pDC);
+    // Grid settings; ShowGrid refuses a grid (-4) with floating left tics
+    // and a shown right axis.
+    int ShowGrid(DWORD dwGridType);
+    int SetGridAttributes(DWORD dwGridType, DWORD crColor, int nStyle);
+    int GetGridAttributes(DWORD* pdwGridType, DWORD* pcrColor, int* pnStyle);
+    // Tic marks on the four edges, and the grid lines (called by Plot).
+    void PlotTics(CDC* pDC);
+    void PlotGrid(CDC* pDC);
+    // A value as axis text into pszBuffer (256 bytes): with strFormat, or with
+    // m_strMaxLenFormat when that gives more than 10 characters (11 below 0).
+    void FormatLabelSuitably(char* pszBuffer, CString strFormat, double dValue);
+    // Width of a number: text + overhang + 3; bStrip drops its leading blanks, in place.
+    void GetLabelWExtent(CDC* pDC, CString& str, int bStrip, int* pnWidth);
+    // Text at (x, y); lFlags 1 centres it on the plot.
+    void PlaceStringHorizontal(CDC* pDC, int x, int y, CString& str, long lFlags);
+    // Text read upward (TrueType) or stacked; lFlags 8 centres it on the
+    // plot, 2 puts it at the graph's right side, 4 at its left side.
+    void PlaceStringVertical(CDC* pDC, int x, int y, CString& str, long lFlags);
+    // The series, under m_csPlotData and clipped to the plot; leaves the
+    // context's own clip region selected again (none: clipped to nothing).
+    void PlotPoints(CDC* pDC);
+    // The line of one series with its highlight regions; 0 when the last
+    // polyline call succeeded.
+    int PlotPixels(CDC* pDC, CPlotData* pPlotData);
+    // One line between two data points, straight onto the window; 1.
+    int PlotLine(double x1, double y1, double x2, double y2, DWORD crColor, int nStyle, int nYAxis);
+    // The pixel arrays of all series, without drawing.
+    void OptimizePlotData();
+    // The reference lines across the plot, in the pen Plot has selected.
+    void DrawReferenceLines(CDC* pDC);
+    // Markers at every point of a series.
+    void AnnotatePlotData(CDC* pDC, CPlotData* pPlotData);
+    // All shaded areas of all series.
+    void PlotAreas(CDC* pDC);
+    // Every floating label, then the tracker of the selected one.
+    void DrawFloatingLabel(CDC* pDC);
     // (render section)
 
 protected:
@@ -142,6 +241,11 @@ protected:
     CString GetMaxLenString();
     // The extent of one series, as the limits stand.
     void GetRadarValues(CPlotData* pData);
+    // The limit setters: the narrow-pair rule, the store, and what follows a
+    // change; bRange is set for sg_xrange and sg_yrange, which also move the
+    // marker line.
+    void StoreXLimits(double dMax, double dMin, BOOL bRange);
+    void StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange);
     // (axes protected section)
 
     // ---- interact/ (protected) ----------------------------------------------
@@ -153,13 +257,25 @@ protected:
     void PlaceFloatingLabels();
     // Moves every floating label to the pixels of its data position.
     void UpdateAllFloatingLabelPositions();
+    // Recomputes the marker line's pixels from its data positions; 1.
+    int UpdateMarkerLinePos();
     // (interact protected section)
 
     // ---- render/ (protected) ------------------------------------------------
+    // Cooperative plotting flags of a derived class with a foreground and a
+    // background plotter; they hold only on the Windows 9x family.
+    void SetFGPlot(bool bPlotting);
+    void SetBGPlot(bool bPlotting);
+    bool IsFGPlotting();
+    bool IsBGPlotting();
+    // Wait, on Windows 9x, until the other plotter has cleared its flag.
+    void DelayBG();
+    void DelayFG();
     // (render protected section)
 
     // ---- message handlers ---------------------------------------------------
     afx_msg void OnDestroy();
+    afx_msg void OnPaint();
     // (handlers section)
     DECLARE_MESSAGE_MAP()
 

@@ -7,7 +7,9 @@
 class CGraphNotify
 {
 public:
-    // The first slot is never called by the library.
+    // The first slot is the destructor, so that a host may delete its sink
+    // through this interface. The library never calls it: it does not own
+    // the sink, and only calls the five operations that follow, in this order.
     virtual ~CGraphNotify() {}
     // A mouse event; ptScreen in screen coordinates.
     virtual void OnGraphMouse(UINT nId, UINT nMessage, UINT nFlags, CPoint ptScreen) = 0;

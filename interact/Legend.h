@@ -43,12 +43,12 @@ public:
     BOOL m_bShown;       // the host or the user has the legend on
     BOOL m_bSizing;      // a frame drag is under way
 
+    // Index of the entry of a series, -1 if none; names compare exactly.
+    int FindEntry(const CString& strName) const;
+
 protected:
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
-
-    // Index of the entry of a series, -1 if none; names compare exactly.
-    int FindEntry(const CString& strName) const;
 
 private:
     void FreeEntries();

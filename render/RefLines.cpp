@@ -1,4 +1,5 @@
-// Reference lines of a graph: adding, moving and removing them by name.
+// Reference lines of a graph: adding, moving and removing them by name, and
+// drawing them across the plot.
 #include "graph/GraphPrv.h"
 #include "render/RefLineData.h"
 
@@ -53,4 +54,34 @@ int CGraphPrv::RemoveAllReferenceLines()
     }
     m_mapRefLines.RemoveAll();
     return GRAPH_OK;
+}
+
+void CGraphPrv::DrawReferenceLines(CDC* pDC)
+{
+    // Drawn with the frame's pen and brush, which Plot has selected.
+    POSITION pos = m_mapRefLines.GetStartPosition();
+    while (pos != NULL) {
+        CString strName;
+        CRefLineData* pLine = NULL;
+        m_mapRefLines.GetNextAssoc(pos, strName, pLine);
+        const double dPosition = pLine->m_fPosition;
+        const bool bVertical = (pLine->m_dwFlags & REFLINE_VERTICAL) != 0;
+        // A horizontal line always stands on the left axis.
+        const double dMin = bVertical ? m_dXMin : m_dYMin[0];
+        const double dMax = bVertical ? m_dXMax : m_dYMax[0];
+        // Strictly between the limits, in either order: a line on a limit
+        // would lie on the frame.
+        const bool bVisible = (dPosition > dMin && dPosition < dMax) || (dPosition < dMin && dPosition > dMax);
+        if (!bVisible)
+            continue;
+        if (bVertical) {
+            const int x = DataToPixelX(dPosition);
+            pDC->MoveTo(x, m_rectPlot.top);
+            pDC->LineTo(x, m_rectPlot.bottom);
+        } else {
+            const int y = DataToPixelY(dPosition, 0);
+            pDC->MoveTo(m_rectPlot.left, y);
+            pDC->LineTo(m_rectPlot.right, y);
+        }
+    }
 }

@@ -22,19 +22,22 @@ fi
 # shellcheck source=scripts/wineenv.sh
 . "$(dirname "$0")/wineenv.sh"
 
-stamp="$WINEPREFIX/.zpxgraph-fonts"
+# Bump when the prefix settings below change: existing prefixes get them too.
+stamp="$WINEPREFIX/.zpxgraph-settings-2"
 if [ ! -f "$stamp" ]; then
-    echo "setup: making the Wine prefix $WINEPREFIX"
+    echo "setup: preparing the Wine prefix $WINEPREFIX"
     mkdir -p "$WINEPREFIX"
     wineboot -i >/dev/null 2>&1 || true
     wineserver -w || true
     # SimSun (宋体) does not exist here: map both of its names to WenQuanYi.
+    # Windows are not handed to a window manager: there is none under Xvfb,
+    # and waiting for one costs two seconds at every hidden window.
     reg="$(mktemp --suffix=.reg)"
-    # regedit wants the UTF-16 header line of version 5 files.
-    { printf '\xff\xfe'; printf 'Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\Software\\Wine\\Fonts\\Replacements]\r\n"\xe5\xae\x8b\xe4\xbd\x93"="WenQuanYi Zen Hei"\r\n"SimSun"="WenQuanYi Zen Hei"\r\n' | iconv -f UTF-8 -t UTF-16LE; } > "$reg"
+    { printf '\xff\xfe'; printf 'Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\Software\\Wine\\Fonts\\Replacements]\r\n"\xe5\xae\x8b\xe4\xbd\x93"="WenQuanYi Zen Hei"\r\n"SimSun"="WenQuanYi Zen Hei"\r\n\r\n[HKEY_CURRENT_USER\\Software\\Wine\\X11 Driver]\r\n"Managed"="N"\r\n' | iconv -f UTF-8 -t UTF-16LE; } > "$reg"
     wine regedit /S "$(winepath -w "$reg")" >/dev/null 2>&1
     wineserver -w || true
     rm -f "$reg"
     grep -q 'WenQuanYi' "$WINEPREFIX/user.reg" || { echo "setup: font replacement was not written" >&2; exit 1; }
+    grep -q '"Managed"="N"' "$WINEPREFIX/user.reg" || { echo "setup: window settings were not written" >&2; exit 1; }
     touch "$stamp"
 fi

@@ -11,8 +11,12 @@ if [ -z "${DISPLAY:-}" ] && [ -z "${ZPX_IN_XVFB:-}" ]; then
     exec xvfb-run -a -s "-screen 0 1280x1024x24" "$0" "$@"
 fi
 
-wineserver -p
-trap 'wineserver -k >/dev/null 2>&1 || true' EXIT
+# Start a persistent Wine server unless one runs already (then it is someone
+# else's, and it stays when we are done).
+if ! pgrep -u "$(id -u)" wineserver >/dev/null 2>&1; then
+    wineserver -p
+    trap 'wineserver -k >/dev/null 2>&1 || true' EXIT
+fi
 # Start Wine's own background processes (services, the desktop window) now,
 # detached from our output: a test runner waits for every process that holds
 # its pipes, and these would live on after the test that started them.

@@ -19,11 +19,9 @@ void CGraphPrv::DestroyPlotData(CPlotData* pData)
     delete pData;
 }
 
-int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, float* pfY, long lPoints,
-                           DWORD crColor, int nLineStyle, int nAnnotate)
+// A new, empty series of that name; null when memory fails.
+static CPlotData* NewPlotData(const CString& strName)
 {
-    if (FindPlotData(strName) != NULL)
-        return GRAPH_SERIESEXISTS;
     CPlotData* pData = NULL;
     try {
         pData = new CPlotData;
@@ -31,17 +29,26 @@ int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, flo
     } catch (CException* e) {
         e->Delete();
         delete pData;
-        return GRAPH_NOMEMORY;
+        pData = NULL;
     }
+    return pData;
+}
+
+int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, float* pfY, long lPoints,
+                           DWORD crColor, int nLineStyle, int nAnnotate)
+{
+    if (FindPlotData(strName) != NULL)
+        return GRAPH_SERIESEXISTS;
+    CPlotData* pData = NewPlotData(strName);
+    if (pData == NULL)
+        return GRAPH_NOMEMORY;
     // The host's arrays are kept, not copied: the host owns them.
     pData->m_pfXData = pfX;
     pData->m_pfYData = pfY;
     int nResult = FillPlotData(pData, dwAxis, lPoints, crColor, nLineStyle, nAnnotate);
-    if (nResult != GRAPH_OK) {
+    if (nResult != GRAPH_OK)
         DestroyPlotData(pData);
-        return nResult;
-    }
-    return GRAPH_OK;
+    return nResult;
 }
 
 int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, double* pdX, double* pdY, long lPoints,
@@ -49,26 +56,18 @@ int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, double* pdX, do
 {
     if (FindPlotData(strName) != NULL)
         return GRAPH_SERIESEXISTS;
-    CPlotData* pData = NULL;
-    try {
-        pData = new CPlotData;
-        pData->m_strName = strName;
-    } catch (CException* e) {
-        e->Delete();
-        delete pData;
+    CPlotData* pData = NewPlotData(strName);
+    if (pData == NULL)
         return GRAPH_NOMEMORY;
-    }
     // Owned float copies: the host may free its doubles on return.
     if (!pData->SetDoubleData(pdX, pdY, lPoints)) {
         DestroyPlotData(pData);
         return GRAPH_NOMEMORY;
     }
     int nResult = FillPlotData(pData, dwAxis, lPoints, crColor, nLineStyle, nAnnotate);
-    if (nResult != GRAPH_OK) {
+    if (nResult != GRAPH_OK)
         DestroyPlotData(pData);
-        return nResult;
-    }
-    return GRAPH_OK;
+    return nResult;
 }
 
 int CGraphPrv::FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD crColor, int nLineStyle, int nAnnotate)

@@ -1,0 +1,124 @@
+// Axis limits: the pair of values at the edges of the plot for X and for
+// each Y axis, the rule that keeps a pair at least one resolution apart, and
+// what follows every change (tic tables, the cross hair's transform, the
+// marker line, the floating labels). Also the limit order bits and the
+// automatic scaling switch.
+#include "graph/GraphPrv.h"
+#include "axes/AxesMath.h"
+#include <math.h>
+
+namespace {
+
+// A pair narrower than the resolution R: the maximum dF stays, the minimum
+// dS moves one resolution away from it. Equal values (and values that do not
+// compare, not-a-number) take the direction of the old limits. Ends that came
+// within the tolerance of zero become zero.
+void KeepPairApart(double& dF, double& dS, double dR, BOOL bOldRising)
+{
+    if (fabs(dF - dS) >= dR)
+        return;
+    if (dF > dS)
+        dS = dF - dR;
+    else if (dF < dS)
+        dS = dF + dR;
+    else
+        dS = bOldRising ? dF - dR : dF + dR;
+    if (fabs(dF) < AXES_TOLERANCE)
+        dF = 0.0;
+    if (fabs(dS) < AXES_TOLERANCE)
+        dS = 0.0;
+}
+
+} // namespace
+
+void CGraphPrv::StoreXLimits(double dMax, double dMin, BOOL bRange)
+{
+    m_bPointsStale = TRUE;
+    KeepPairApart(dMax, dMin, (double)m_fXResolution, m_dXMax > m_dXMin);
+    m_dXMax = dMax;
+    m_dXMin = dMin;
+    CalcXTicValues();
+    // A change of limits frees a locked cross hair, and renews the transform
+    // its read-outs work from.
+    if (m_dwState & GST_CROSSHAIR) {
+        HorzXform(&m_dXScale, &m_dXOffset);
+        m_dwState &= ~GST_CROSSHAIR_LOCKED;
+    }
+    if (bRange && m_pMarkerLine != NULL)
+        UpdateMarkerLinePos();
+    UpdateAllFloatingLabelPositions();
+}
+
+void CGraphPrv::StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange)
+{
+    const int n = AxesYIndex(nAxis);
+    m_bPointsStale = TRUE;
+    KeepPairApart(dMax, dMin, (double)m_fYResolution[n], m_dYMax[n] > m_dYMin[n]);
+    m_dYMax[n] = dMax;
+    m_dYMin[n] = dMin;
+    CalcYTicValues(n);
+    if (m_dwState & GST_CROSSHAIR) {
+        VertXform(&m_dYScale[n], &m_dYOffset[n], n);
+        m_dwState &= ~GST_CROSSHAIR_LOCKED;
+    }
+    if (bRange && m_pMarkerLine != NULL)
+        UpdateMarkerLinePos();
+    UpdateAllFloatingLabelPositions();
+}
+
+int CGraphPrv::SetXAxisLimits(double dMin, double dMax)
+{
+    StoreXLimits(dMax, dMin, FALSE);
+    return 1;
+}
+
+int CGraphPrv::GetXAxisLimits(double* pdMin, double* pdMax)
+{
+    *pdMin = m_dXMin;
+    *pdMax = m_dXMax;
+    return 1;
+}
+
+int CGraphPrv::SetYAxisLimits(double dMin, double dMax, int nAxis)
+{
+    StoreYLimits(dMax, dMin, nAxis, FALSE);
+    return 1;
+}
+
+int CGraphPrv::GetYAxisLimits(double* pdMin, double* pdMax, int nAxis)
+{
+    if (nAxis != 0 && nAxis != 1)
+        return GRAPH_BADARG;
+    *pdMin = m_dYMin[nAxis];
+    *pdMax = m_dYMax[nAxis];
+    return 1;
+}
+
+void CGraphPrv::sg_xrange(double dMax, double dMin)
+{
+    StoreXLimits(dMax, dMin, TRUE);
+}
+
+void CGraphPrv::sg_yrange(double dMax, double dMin, int nAxis)
+{
+    StoreYLimits(dMax, dMin, nAxis, TRUE);
+}
+
+int CGraphPrv::SetLimitFlip(DWORD dwFlags)
+{
+    const DWORD dwOrderBits = GS_XLIMITORDER | GS_YLIMITORDER | GS_RESERVED40;
+    m_dwStyle = (m_dwStyle & ~dwOrderBits) | (dwFlags & dwOrderBits);
+    return 1;
+}
+
+int CGraphPrv::GetLimitFlip(DWORD* pdwFlags)
+{
+    *pdwFlags = m_dwStyle;
+    return 1;
+}
+
+int CGraphPrv::SetAutoScaleMode(int nMode)
+{
+    m_nAutoScaleMode = nMode;
+    return 1;
+}

@@ -1,0 +1,265 @@
+// Point reduction: the pixel array of a series against a literal walk of the
+// documented steps (transform with the rounding term 0.50001, drop a point
+// equal to the one kept before it, move the region edges down as points are
+// dropped), on data with many runs of duplicates.
+#include "RenderTestUtil.h"
+
+namespace {
+
+struct Expected
+{
+    std::vector<POINT> aPoints;
+    std::vector<long> aStart, aEnd;   // region edges, in list order
+};
+
+// The documented walk, step by step, with the edges kept inside the array.
+Expected Reference(CGraphPrv* pGraph, CPlotData* pData)
+{
+    Expected e;
+    double dXScale, dXOffset, dYScale, dYOffset;
+    pGraph->HorzXform(&dXScale, &dXOffset);
+    dXOffset += 0.50001;
+    pGraph->VertXform(&dYScale, &dYOffset, pData->m_nYAxis);
+    dYOffset += 0.50001;
+
+    std::vector<long> aStart, aEnd;
+    POSITION pos = pData->m_listHighlights.GetHeadPosition();
+    while (pos != NULL) {
+        CHighlightRegionData* pRegion = pData->m_listHighlights.GetNext(pos);
+        aStart.push_back(pRegion->m_lStart);
+        aEnd.push_back(pRegion->m_lEnd);
+    }
+
+    std::vector<POINT> a((size_t)pData->m_lPoints);
+    long iOut = 0;
+    for (long i = 0; i < pData->m_lPoints; i++, iOut++) {
+        const long j = pData->m_lStartIndex + i;
+        a[(size_t)iOut].x = (int)(dXScale * pData->m_pfXData[j] + dXOffset);
+        a[(size_t)iOut].y = (int)(dYOffset - dYScale * pData->m_pfYData[j]);
+        if (iOut > 0 && a[(size_t)iOut].x == a[(size_t)iOut - 1].x && a[(size_t)iOut].y == a[(size_t)iOut - 1].y) {
+            iOut--;
+            for (size_t r = 0; r < aStart.size(); r++) {
+                if (iOut < aStart[r])
+                    aStart[r]--;
+                if (iOut < aEnd[r])
+                    aEnd[r]--;
+            }
+        }
+    }
+    a.resize((size_t)iOut);
+    e.aPoints = a;
+    for (size_t r = 0; r < aStart.size(); r++) {
+        e.aStart.push_back(std::max(0L, std::min(aStart[r], iOut - 1)));
+        e.aEnd.push_back(std::max(0L, std::min(aEnd[r], iOut - 1)));
+    }
+    return e;
+}
+
+void ExpectMatches(const Expected& e, CPlotData* pData)
+{
+    ASSERT_EQ((long)e.aPoints.size(), pData->m_lPointCount);
+    ASSERT_TRUE(pData->m_pPointArray != NULL);
+    for (long i = 0; i < pData->m_lPointCount; i++) {
+        ASSERT_EQ(e.aPoints[(size_t)i].x, pData->m_pPointArray[i].x) << "point " << i;
+        ASSERT_EQ(e.aPoints[(size_t)i].y, pData->m_pPointArray[i].y) << "point " << i;
+    }
+    size_t r = 0;
+    POSITION pos = pData->m_listHighlights.GetHeadPosition();
+    while (pos != NULL) {
+        CHighlightRegionData* pRegion = pData->m_listHighlights.GetNext(pos);
+        EXPECT_EQ(e.aStart[r], pRegion->m_lPixelStart) << "region " << r;
+        EXPECT_EQ(e.aEnd[r], pRegion->m_lPixelEnd) << "region " << r;
+        r++;
+    }
+}
+
+// Data that steps along in runs: a run of k points on one pixel, then a jump.
+void MakeRuns(long n, std::vector<float>& x, std::vector<float>& y)
+{
+    unsigned int s = 12345;
+    float fX = 0.0f, fY = 5.0f;
+    for (long i = 0; i < n; i++) {
+        s = s * 1103515245u + 12345u;
+        if ((s >> 16) % 4 == 0) {
+            fX += 0.01f;
+            fY = (float)((s >> 8) % 1000) / 100.0f;
+        }
+        x.push_back(fX);
+        y.push_back(fY);
+    }
+}
+
+} // namespace
+
+TEST(PointReduction, ConsecutiveDuplicatesAreDropped)
+{
+    PlotFixture f;
+    std::vector<float> x, y;
+    MakeRuns(5000, x, y);
+    CPlotData* pData = f.Add("runs", x, y, BLUE);
+    f.Prv()->OptimizePoints(pData);
+    Expected e = Reference(f.Prv(), pData);
+    ExpectMatches(e, pData);
+    // The data were made to repeat: most points go.
+    EXPECT_LT(pData->m_lPointCount, 2000);
+    EXPECT_GT(pData->m_lPointCount, 100);
+}
+
+TEST(PointReduction, ARightAxisSeriesUsesTheRightAxisTransform)
+{
+    PlotFixture f;
+    std::vector<float> x = { 0.1f, 0.5f, 0.9f };
+    std::vector<float> y = { 110.0f, 150.0f, 190.0f };
+    CPlotData* pData = f.Add("right", x, y, BLUE, PS_SOLID, PLOT_YRIGHT);
+    ASSERT_EQ(1, pData->m_nYAxis);
+    f.Prv()->OptimizePoints(pData);
+    ASSERT_EQ(3, pData->m_lPointCount);
+    for (int i = 0; i < 3; i++) {
+        EXPECT_EQ(f.Prv()->DataToPixelX(x[(size_t)i]), pData->m_pPointArray[i].x);
+        EXPECT_EQ(f.Prv()->DataToPixelY(y[(size_t)i], 1), pData->m_pPointArray[i].y);
+    }
+    // On the left axis (0 to 10) the same value would lie far above the plot.
+    EXPECT_LT(f.Prv()->DataToPixelY(110.0, 0), f.m_rectPlot.top);
+    EXPECT_GE(pData->m_pPointArray[0].y, f.m_rectPlot.top);
+    EXPECT_LE(pData->m_pPointArray[0].y, f.m_rectPlot.bottom);
+    f.Prv()->SetYAxisLimits(0.0, 1.0, 0);
+    f.Prv()->OptimizePoints(pData);
+    EXPECT_EQ(f.Prv()->DataToPixelY(150.0, 1), pData->m_pPointArray[1].y);
+}
+
+TEST(PointReduction, AllPointsEqualLeaveOneEntryAndCollapseTheRegions)
+{
+    PlotFixture f;
+    std::vector<float> x(50, 0.5f), y(50, 5.0f);
+    CPlotData* pData = f.Add("flat", x, y, BLUE);
+    CHighlightRegionData* pA = PlotFixture::AddRegion(pData, 0, 10, MAGENTA, PS_SOLID);
+    CHighlightRegionData* pB = PlotFixture::AddRegion(pData, 20, 49, MAGENTA, PS_SOLID);
+    f.Prv()->OptimizePoints(pData);
+    EXPECT_EQ(1, pData->m_lPointCount);
+    EXPECT_EQ(0, pA->m_lPixelStart);
+    EXPECT_EQ(0, pA->m_lPixelEnd);
+    EXPECT_EQ(0, pB->m_lPixelStart);
+    EXPECT_EQ(0, pB->m_lPixelEnd);
+}
+
+TEST(PointReduction, OnePointAndAZigzagKeepEveryPoint)
+{
+    PlotFixture f;
+    CPlotData* pOne = f.Add("one", std::vector<float>{ 0.5f }, std::vector<float>{ 5.0f }, BLUE);
+    f.Prv()->OptimizePoints(pOne);
+    EXPECT_EQ(1, pOne->m_lPointCount);
+    EXPECT_EQ(f.Prv()->DataToPixelX(0.5), pOne->m_pPointArray[0].x);
+
+    // Between two pixels and back: each point differs from the one before.
+    std::vector<float> x, y;
+    for (int i = 0; i < 100; i++) {
+        x.push_back(0.5f);
+        y.push_back(i % 2 ? 5.0f : 6.0f);
+    }
+    CPlotData* pZig = f.Add("zigzag", x, y, BLUE);
+    f.Prv()->OptimizePoints(pZig);
+    EXPECT_EQ(100, pZig->m_lPointCount);
+}
+
+TEST(PointReduction, RegionEdgesFollowTheDroppedPoints)
+{
+    PlotFixture f;
+    std::vector<float> x, y;
+    MakeRuns(3000, x, y);
+    CPlotData* pData = f.Add("regions", x, y, BLUE);
+    // Edges on kept and on dropped points, a region inside one run, a
+    // region at the very start and one reaching the last point.
+    const long aEdges[][2] = { { 0, 7 }, { 13, 14 }, { 100, 400 }, { 401, 402 }, { 1500, 2999 }, { 2998, 2999 } };
+    for (const long* pEdge : aEdges)
+        PlotFixture::AddRegion(pData, pEdge[0], pEdge[1], MAGENTA, PS_SOLID);
+    f.Prv()->OptimizePoints(pData);
+    ExpectMatches(Reference(f.Prv(), pData), pData);
+
+    // A region past the end (left by an update with fewer points) stays inside the array.
+    float* pfX = pData->m_pfXData;
+    float* pfY = pData->m_pfYData;
+    ASSERT_EQ(1, f.m_graph.UpdatePlotData("regions", pfX, pfY, 0, 1000));
+    f.Prv()->OptimizePoints(pData);
+    ExpectMatches(Reference(f.Prv(), pData), pData);
+    POSITION pos = pData->m_listHighlights.GetTailPosition();
+    CHighlightRegionData* pLast = pData->m_listHighlights.GetPrev(pos);
+    EXPECT_EQ(pData->m_lPointCount - 1, pLast->m_lPixelStart);
+    EXPECT_EQ(pData->m_lPointCount - 1, pLast->m_lPixelEnd);
+}
+
+TEST(PointReduction, TheFirstIndexOfTheSeriesIsHonoured)
+{
+    PlotFixture f;
+    std::vector<float> x, y;
+    MakeRuns(2000, x, y);
+    CPlotData* pData = f.Add("offset", x, y, BLUE);
+    float* pfX = pData->m_pfXData;
+    float* pfY = pData->m_pfYData;
+    ASSERT_EQ(1, f.m_graph.UpdatePlotData("offset", pfX, pfY, 500, 1200));
+    f.Prv()->OptimizePoints(pData);
+    Expected e = Reference(f.Prv(), pData);
+    ExpectMatches(e, pData);
+    EXPECT_EQ(f.Prv()->DataToPixelX(x[500]), pData->m_pPointArray[0].x);
+}
+
+TEST(PointReduction, MissingDataKeepsTheOldPixels)
+{
+    PlotFixture f;
+    std::vector<float> x = { 0.1f, 0.2f, 0.3f }, y = { 1.0f, 2.0f, 3.0f };
+    CPlotData* pData = f.Add("gone", x, y, BLUE);
+    f.Prv()->OptimizePoints(pData);
+    POINT* pBefore = pData->m_pPointArray;
+    const POINT ptFirst = pBefore[0];
+    ASSERT_EQ(1, f.m_graph.UpdatePlotData("gone", (float*)NULL, (float*)NULL, 0, 3));
+    f.Prv()->OptimizePoints(pData);
+    EXPECT_EQ(pBefore, pData->m_pPointArray);
+    EXPECT_EQ(3, pData->m_lPointCount);
+    EXPECT_EQ(ptFirst.x, pData->m_pPointArray[0].x);
+}
+
+TEST(PointReduction, OptimizePlotDataRunsOnEverySeriesAndClearsTheStaleMark)
+{
+    PlotFixture f;
+    CPlotData* pA = f.Add("a", std::vector<float>{ 0.1f, 0.1f, 0.9f }, std::vector<float>{ 1.0f, 1.0f, 9.0f }, BLUE);
+    CPlotData* pB = f.Add("b", std::vector<float>{ 0.2f, 0.8f }, std::vector<float>{ 2.0f, 8.0f }, BLUE);
+    f.Prv()->m_bPointsStale = TRUE;
+    f.Prv()->OptimizePlotData();
+    EXPECT_FALSE(f.Prv()->m_bPointsStale);
+    EXPECT_EQ(2, pA->m_lPointCount);
+    EXPECT_EQ(2, pB->m_lPointCount);
+    EXPECT_EQ(f.Prv()->DataToPixelY(8.0, 0), pB->m_pPointArray[1].y);
+}
+
+TEST(PointReduction, WindowsNtFamilyHasNoPlottingFlags)
+{
+    // The library runs on the NT family here: no clamp, no flags, no waits.
+    class CFlagProbe : public CGraphPrv
+    {
+    public:
+        using CGraphPrv::SetFGPlot;
+        using CGraphPrv::SetBGPlot;
+        using CGraphPrv::IsFGPlotting;
+        using CGraphPrv::IsBGPlotting;
+        using CGraphPrv::DelayBG;
+        using CGraphPrv::DelayFG;
+    };
+    CFlagProbe graph;
+    ASSERT_EQ((::GetVersion() & 0x80000000u) != 0, graph.IsWin98());
+    ASSERT_FALSE(graph.IsWin98());
+    graph.SetFGPlot(true);
+    graph.SetBGPlot(true);
+    EXPECT_FALSE(graph.IsFGPlotting());
+    EXPECT_FALSE(graph.IsBGPlotting());
+    // Even with a flag set by hand the waits return at once.
+    graph.m_bFGPlot = true;
+    graph.m_bBGPlot = true;
+    graph.DelayBG();
+    graph.DelayFG();
+    EXPECT_TRUE(graph.IsFGPlotting());
+
+    // Far-away points are not clamped to the 16-bit range.
+    PlotFixture f;
+    CPlotData* pData = f.Add("far", std::vector<float>{ 0.5f, 1000.0f }, std::vector<float>{ 5.0f, 5.0f }, BLUE);
+    f.Prv()->OptimizePoints(pData);
+    EXPECT_GT(pData->m_pPointArray[1].x, 8192);
+}

@@ -1,0 +1,33 @@
+// The English satellite: a second InitializeZPXGraph under an English thread
+// locale puts the satellite at the head of the resource chain.
+#include "gtest/gtest.h"
+#include "graph/Graph.h"
+#include "graph/GraphPrv.h"
+#include "resources/resource.h"
+#include "TestUtil.h"
+
+TEST(Satellite, EnglishLocaleSwitchesTheTexts)
+{
+    // The test program's main ran InitializeZPXGraph under the Chinese
+    // locale, which has no satellite: the library's own texts are in force.
+    CString str;
+    ASSERT_TRUE(str.LoadString(IDS_LOCK));
+    EXPECT_STREQ(AnsiOf(L"\u9501\u5B9A(&K)"), str);
+
+    LCID lcidOld = ::GetThreadLocale();
+    ::SetThreadLocale(MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT));
+    InitializeZPXGraph();
+    ::SetThreadLocale(lcidOld);
+
+    ASSERT_TRUE(str.LoadString(IDS_LOCK));
+    EXPECT_STREQ("&Lock", str);
+    ASSERT_TRUE(str.LoadString(IDS_LINE_NAME_FORMAT));
+    EXPECT_STREQ("Line %d", str);
+
+    // A graph made now takes its face name through the chain...
+    CGraph graph;
+    EXPECT_STREQ("Arial", graph.m_pGraphPrv->m_strFaceName);
+    // ...but the default line names were made at load from the library itself.
+    EXPECT_STREQ(AnsiOf(L"\u7EBF 1"), graph.m_pGraphPrv->m_pGraphColors[0].m_strName);
+    EXPECT_TRUE(graph.m_pGraphPrv->m_hPlotCursor != NULL);
+}
