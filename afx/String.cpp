@@ -37,7 +37,10 @@ CString::CString(char ch, int nRepeat) : CString()
 
 CString::CString(LPCSTR lpsz) : CString()
 {
-    if (lpsz != NULL)
+    // As in the class library, MAKEINTRESOURCE(nID) loads string nID.
+    if (lpsz != NULL && IS_INTRESOURCE(lpsz))
+        LoadString(LOWORD((ULONG_PTR)lpsz));
+    else if (lpsz != NULL)
         AssignCopy((int)strlen(lpsz), lpsz);
 }
 
@@ -471,6 +474,8 @@ void CString::ReleaseBuffer(int nNewLength)
 
 LPSTR CString::GetBufferSetLength(int nNewLength)
 {
+    if (nNewLength < 0)
+        nNewLength = 0;
     GetBuffer(nNewLength);
     if (m_pchData != g_chNil) {
         m_nDataLength = nNewLength;

@@ -144,7 +144,7 @@ public:
     CString();
     CString(const CString& stringSrc);
     CString(char ch, int nRepeat = 1);
-    CString(LPCSTR lpsz);          // a null pointer gives an empty string
+    CString(LPCSTR lpsz);          // a null pointer gives an empty string; MAKEINTRESOURCE(nID) loads string nID
     CString(LPCSTR lpch, int nLength);
     CString(const unsigned char* psz);
     ~CString();

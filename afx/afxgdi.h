@@ -293,7 +293,8 @@ protected:
 
 // Selects an object into a context and selects the previous one back when
 // the guard goes. Declare the object before the guard, so that the object is
-// deselected before it is deleted.
+// deselected before it is deleted. Not for regions: selecting one sets the
+// clip and has no previous handle; use CSaveDCGuard around SelectClipRgn.
 class CSelectGuard
 {
 public:

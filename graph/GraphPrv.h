@@ -213,6 +213,9 @@ public:
     void PlotAreas(CDC* pDC);
     // Every floating label, then the tracker of the selected one.
     void DrawFloatingLabel(CDC* pDC);
+    // After a paint of the plot: the cross hair and the marker line inverted
+    // again over the finished picture, inside rectDirty.
+    void RedrawOverlays(CDC* pDC, const CRect& rectDirty);
     // (render section)
 
 protected:

@@ -1,6 +1,7 @@
-// Placeholders until the series decorations and the floating labels draw:
-// markers and point labels, point highlights, shaded areas, floating labels.
-// Each piece's own code replaces its function here.
+// Placeholders until the series decorations, the floating labels and the
+// inverted tools draw: markers and point labels, point highlights, shaded
+// areas, floating labels, cross hair and marker line after a paint. Each
+// piece's own code replaces its function here.
 #include "graph/GraphPrv.h"
 #include "series/PlotData.h"
 
@@ -9,6 +10,8 @@ void CGraphPrv::AnnotatePlotData(CDC*, CPlotData*) {}
 void CGraphPrv::PlotAreas(CDC*) {}
 
 void CGraphPrv::DrawFloatingLabel(CDC*) {}
+
+void CGraphPrv::RedrawOverlays(CDC*, const CRect&) {}
 
 int CPlotData::DrawLabels(CDC*, CGraphPrv*)
 {

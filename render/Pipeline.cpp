@@ -32,6 +32,7 @@ void CGraphPrv::OnPaint()
         ::SetRectRgn((HRGN)rgnUpdate.m_hObject, m_rectGraph.left, m_rectGraph.top, m_rectGraph.right,
                      m_rectGraph.bottom);
         dc.SelectClipRgn(&rgnUpdate);
+        RedrawOverlays(&dc, rectDirty);
     } else {
         // Only the margins need paint: the text, and nothing in the plot.
         PutLabels(&dc);
@@ -50,8 +51,10 @@ int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
         {
             // Frame and background in one: the pen is 1 wide whatever the
             // grid's width.
-            CBrush brushBackground(bColor ? m_crBackground : RGB(255, 255, 255));
-            CPen penFrame(PS_SOLID, 1, bColor ? m_crGrid : 0);
+            CBrush brushBackground;
+            brushBackground.CreateSolidBrush(bColor ? m_crBackground : RGB(255, 255, 255));
+            CPen penFrame;
+            penFrame.CreatePen(PS_SOLID, 1, bColor ? m_crGrid : 0);
             CSaveDCGuard saveDC(pDC);
             pDC->SetTextColor(bColor ? m_crText : 0);
             pDC->SelectObject(&brushBackground);

@@ -4,6 +4,7 @@
 #include "graph/GraphPrv.h"
 #include "series/PlotData.h"
 #include "render/HighlightRegionData.h"
+#include <memory>
 #include <string.h>
 
 namespace {
@@ -33,7 +34,7 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
 {
     const bool bScaled = pDC->GetMapMode() == MM_ANISOTROPIC;
     CPlotRectRestore restorePlot(m_rectPlot);
-    POINT* pCopy = NULL;    // the scaled paint draws from a copy of the pixels
+    std::unique_ptr<POINT[]> pCopy;   // the scaled paint draws from a copy of the pixels
     POINT* pPoints;
     long nCount;
 
@@ -46,13 +47,13 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
             return 1;
         nCount = pPlotData->m_lPointCount;
         try {
-            pCopy = new POINT[nCount > 0 ? (size_t)nCount : 1];
+            pCopy.reset(new POINT[nCount > 0 ? (size_t)nCount : 1]);
         } catch (CMemoryException* e) {
             e->Delete();
             return 1;
         }
-        memcpy(pCopy, pPlotData->m_pPointArray, (size_t)nCount * sizeof(POINT));
-        pPoints = pCopy;
+        memcpy(pCopy.get(), pPlotData->m_pPointArray, (size_t)nCount * sizeof(POINT));
+        pPoints = pCopy.get();
     } else {
         OptimizePoints(pPlotData);
         if (pPlotData->m_pPointArray == NULL)
@@ -64,7 +65,10 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
     const BOOL bColor = IsColorDevice(pDC);
     int nResult = 0;
     {
-        CPen penSeries(pPlotData->m_nLineStyle, pPlotData->m_nLineWidth, bColor ? pPlotData->m_crLine : 0);
+        // A pen the system refuses is not selected: the line then takes the
+        // context's own pen.
+        CPen penSeries;
+        penSeries.CreatePen(pPlotData->m_nLineStyle, pPlotData->m_nLineWidth, bColor ? pPlotData->m_crLine : 0);
         CRgn rgnClip;
         CSaveDCGuard saveDC(pDC);
         if (bScaled) {
@@ -78,13 +82,12 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
         pDC->SetBkMode(TRANSPARENT);
         pDC->SelectObject(&penSeries);
 
-        POINT* pDraw = pPoints;
         CTypedPtrList<CPtrList, CHighlightRegionData*>& listRegions = pPlotData->m_listHighlights;
         if (nCount < 1) {
             // Nothing computed yet (the series never had data): no line.
         } else if (listRegions.IsEmpty()) {
             if (pPlotData->m_lPoints >= 2)
-                nResult = Polyline_Win98_Workaround(pDC, pDraw, (int)nCount);
+                nResult = Polyline_Win98_Workaround(pDC, pPoints, (int)nCount);
         } else {
             // Stretches share their end points, so the line has no gap at
             // the edges of a region.
@@ -95,19 +98,19 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
                 const long iFirst = ClampIndex(pRegion->m_lPixelStart, nCount);
                 const long iLast = ClampIndex(pRegion->m_lPixelEnd, nCount);
                 if (iFirst != iDone)
-                    nResult = Polyline_Win98_Workaround(pDC, pDraw + iDone, (int)(iFirst - iDone + 1));
+                    nResult = Polyline_Win98_Workaround(pDC, pPoints + iDone, (int)(iFirst - iDone + 1));
                 if (nResult == 0 && iLast > iFirst) {
-                    CPen penRegion(pRegion->m_nRegionStyle, pPlotData->m_nLineWidth,
-                                   bColor ? pRegion->m_crRegion : 0);
+                    CPen penRegion;
+                    penRegion.CreatePen(pRegion->m_nRegionStyle, pPlotData->m_nLineWidth,
+                                        bColor ? pRegion->m_crRegion : 0);
                     CSelectGuard selectRegion(pDC, &penRegion);
-                    nResult = Polyline_Win98_Workaround(pDC, pDraw + iFirst, (int)(iLast - iFirst + 1));
+                    nResult = Polyline_Win98_Workaround(pDC, pPoints + iFirst, (int)(iLast - iFirst + 1));
                 }
                 iDone = iLast;
             }
-            nResult = Polyline_Win98_Workaround(pDC, pDraw + iDone, (int)(nCount - iDone));
+            nResult = Polyline_Win98_Workaround(pDC, pPoints + iDone, (int)(nCount - iDone));
         }
     }
-    delete[] pCopy;
     return nResult;
 }
 
@@ -115,15 +118,20 @@ int CGraphPrv::PlotLine(double x1, double y1, double x2, double y2, DWORD crColo
 {
     if (m_hWnd == NULL)
         return 1;   // a graph without a window has no screen to draw on
-    CClientDC dc(this);
-    CPen pen(nStyle, m_nGridPenWidth, crColor);
-    CSelectGuard selectPen(&dc, &pen);
-    dc.IntersectClipRect(m_rectPlot.left, m_rectPlot.top, m_rectPlot.right + 1, m_rectPlot.bottom + 1);
-    int y = DataToPixelY(y1, nYAxis);
-    int x = DataToPixelX(x1);
-    dc.MoveTo(x, y);
-    y = DataToPixelY(y2, nYAxis);
-    x = DataToPixelX(x2);
-    dc.LineTo(x, y);
+    try {
+        CClientDC dc(this);
+        CPen pen;
+        pen.CreatePen(nStyle, m_nGridPenWidth, crColor);
+        CSelectGuard selectPen(&dc, &pen);
+        dc.IntersectClipRect(m_rectPlot.left, m_rectPlot.top, m_rectPlot.right + 1, m_rectPlot.bottom + 1);
+        int y = DataToPixelY(y1, nYAxis);
+        int x = DataToPixelX(x1);
+        dc.MoveTo(x, y);
+        y = DataToPixelY(y2, nYAxis);
+        x = DataToPixelX(x2);
+        dc.LineTo(x, y);
+    } catch (CException* e) {
+        e->Delete();   // no context for the window: nothing drawn
+    }
     return 1;
 }

@@ -336,6 +336,12 @@ TEST(CStringResource, LoadStringThroughChain)
     EXPECT_FALSE(missing.LoadString(14499));   // in no module of the chain
     EXPECT_TRUE(missing.IsEmpty());
 
+    // A string id in place of a pointer loads the string.
+    CString byId((LPCSTR)MAKEINTRESOURCEA(14514));
+    EXPECT_EQ(std::string("\xCB\xCE\xCC\xE5"), Bytes(byId));
+    CString byMissingId((LPCSTR)MAKEINTRESOURCEA(14499));
+    EXPECT_TRUE(byMissingId.IsEmpty());
+
     char buf[8];
     memset(buf, 'x', sizeof(buf));
     EXPECT_EQ(0, AfxLoadString(14499, buf, sizeof(buf)));
@@ -366,6 +372,11 @@ TEST(CStringBuffer, GetBufferAndReleaseBuffer)
     EXPECT_STREQ("a l", p);
     s.ReleaseBuffer();
     EXPECT_STREQ("a l", s);
+
+    CString n("abc");
+    n.GetBufferSetLength(-4);   // taken as 0
+    n.ReleaseBuffer();
+    EXPECT_TRUE(n.IsEmpty());
 
     CString e;
     p = e.GetBufferSetLength(4);

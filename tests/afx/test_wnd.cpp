@@ -11,6 +11,7 @@
 
 #include <commctrl.h>
 #include <algorithm>
+#include <thread>
 #include <string.h>
 #include <string>
 #include <vector>
@@ -321,6 +322,29 @@ size_t CSelfDeletingWnd::s_nHWndOffset = 0;
 HWND CSelfDeletingWnd::s_hWndLast = NULL;
 bool CSelfDeletingWnd::s_bDeleted = false;
 
+// A window that makes a child window of its own while it is being created.
+class CParentWnd : public CWnd
+{
+public:
+    CTestWnd m_child;
+    BOOL m_bChildCreated = FALSE;
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
+    {
+        if (CWnd::OnCreate(lpCreateStruct) == -1)
+            return -1;
+        m_bChildCreated = m_child.CreateEx(0, TestWndClass(), "child", WS_CHILD | WS_VISIBLE,
+                                           0, 0, 50, 40, m_hWnd, (HMENU)(UINT_PTR)7);
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CParentWnd, CWnd)
+    ON_WM_CREATE()
+END_MESSAGE_MAP()
+
 // An owner-drawn list box that records the drawing messages reflected to it.
 class COwnerList : public CListBox
 {
@@ -496,6 +520,46 @@ TEST(WndLife, CreateExOfAMissingClassFails)
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hPlain));
     EXPECT_EQ(nullptr, wnd.m_hWnd);
     ::DestroyWindow(hPlain);
+}
+
+TEST(WndLife, WindowCreatedInsideCreationIsBoundToItsOwnObject)
+{
+    CParentWnd parent;
+    ASSERT_TRUE(parent.CreateEx(0, TestWndClass(), "parent", WS_OVERLAPPEDWINDOW, 0, 0, 200, 150, NULL, NULL));
+    EXPECT_TRUE(parent.m_bChildCreated);
+    ASSERT_NE(nullptr, parent.m_child.m_hWnd);
+    EXPECT_NE(parent.m_hWnd, parent.m_child.m_hWnd);
+    EXPECT_EQ(&parent, CWnd::FromHandlePermanent(parent.m_hWnd));
+    EXPECT_EQ(&parent.m_child, CWnd::FromHandlePermanent(parent.m_child.m_hWnd));
+    EXPECT_EQ(parent.m_hWnd, ::GetParent(parent.m_child.m_hWnd));
+    EXPECT_EQ("child", parent.m_child.m_strCreateName);
+    EXPECT_EQ(12034, parent.m_child.SendMessage(WM_TEST_CUSTOM, 12, 34));
+
+    // Destroying the parent takes the child with it, and unbinds both.
+    EXPECT_TRUE(parent.DestroyWindow());
+    EXPECT_EQ(nullptr, parent.m_child.m_hWnd);
+    EXPECT_EQ(nullptr, parent.m_hWnd);
+}
+
+TEST(WndLife, WindowsOfAnotherThread)
+{
+    // Creation and dispatch keep their state per thread.
+    LRESULT lResult = 0;
+    bool bCreated = false;
+    bool bUnbound = false;
+    std::thread worker([&]() {
+        CTestWnd wnd;
+        bCreated = CreateTestWnd(wnd, WS_OVERLAPPED);
+        if (!bCreated)
+            return;
+        lResult = wnd.SendMessage(WM_TEST_CUSTOM, 3, 4);
+        wnd.DestroyWindow();
+        bUnbound = wnd.m_hWnd == NULL && wnd.m_events.back() == "after-ncdestroy";
+    });
+    worker.join();
+    EXPECT_TRUE(bCreated);
+    EXPECT_EQ(3004, lResult);
+    EXPECT_TRUE(bUnbound);
 }
 
 // ---------------------------------------------------------------------------

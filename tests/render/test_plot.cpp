@@ -3,6 +3,8 @@
 // black and white, dashes, highlight regions, a scaled context, the state of
 // the context and the GDI objects after many paints.
 #include "RenderTestUtil.h"
+#include <limits>
+#include <thread>
 
 namespace {
 
@@ -50,9 +52,12 @@ TEST(Pipeline, FrameAndBackgroundCoverThePlotRectangleInclusive)
 TEST(Pipeline, NothingOfASeriesLandsOutsideThePlot)
 {
     PlotFixture f;
-    // Far beyond every edge, with a wide pen, and dashed too.
-    std::vector<float> x = { -5.0f, 0.5f, 6.0f, 0.2f, -3.0f, 0.9f };
-    std::vector<float> y = { 50.0f, 5.0f, -40.0f, 80.0f, 5.0f, -70.0f };
+    // Far beyond every edge, infinite and not a number, with a wide pen,
+    // and dashed too.
+    const float fInf = std::numeric_limits<float>::infinity();
+    const float fNaN = std::numeric_limits<float>::quiet_NaN();
+    std::vector<float> x = { -5.0f, 0.5f, 6.0f, 0.2f, -3.0f, 0.9f, fInf, 0.4f, fNaN, 0.6f, 1e30f, 0.5f };
+    std::vector<float> y = { 50.0f, 5.0f, -40.0f, 80.0f, 5.0f, -70.0f, 5.0f, -fInf, 2.0f, fNaN, 8.0f, 3.0f };
     f.Add("wild", x, y, BLUE);
     f.m_graph.SetPlotDataAttributes("wild", BLUE, PS_SOLID, 7, 0, BLUE);
     f.Add("dash", y, x, MAGENTA, PS_DASH, PLOT_YRIGHT);
@@ -365,4 +370,39 @@ TEST(Pipeline, ThousandsOfPaintsLeaveNoGdiObjectBehind)
     f.m_dib.Fill(CANVAS);
     f.Plot();
     EXPECT_EQ(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.15), f.m_graph.DataToPixelY(5.0, 0)));
+}
+
+TEST(Pipeline, TheSeriesLoopHoldsTheSeriesLock)
+{
+    PlotFixture f;
+    f.Add("line", Xs(), Flat(5.0f), BLUE);
+    f.DC()->SelectClipRgn(NULL);
+    // While another thread holds the lock, a paint stops before the series.
+    f.Prv()->m_csPlotData.Lock();
+    HANDLE hDone = ::CreateEventA(NULL, TRUE, FALSE, NULL);
+    std::thread painter([&] {
+        f.m_graph.Plot(f.DC(), 0);
+        ::SetEvent(hDone);
+    });
+    EXPECT_EQ((DWORD)WAIT_TIMEOUT, ::WaitForSingleObject(hDone, 200));
+    EXPECT_EQ(FRAME, f.m_dib.At(f.m_rectPlot.left, f.m_rectPlot.top));   // the frame came first
+    EXPECT_NE(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(5.0, 0)));
+    f.Prv()->m_csPlotData.Unlock();
+    EXPECT_EQ((DWORD)WAIT_OBJECT_0, ::WaitForSingleObject(hDone, 5000));
+    painter.join();
+    ::CloseHandle(hDone);
+    EXPECT_EQ(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(5.0, 0)));
+}
+
+TEST(Pipeline, AStyleTheSystemRefusesNeitherThrowsNorLeaks)
+{
+    PlotFixture f;
+    f.Add("odd", Xs(), Flat(5.0f), BLUE, 9);
+    f.m_graph.SetPlotDataAttributes("odd", BLUE, 9, -4, 0, BLUE);
+    HGDIOBJ hPen = ::GetCurrentObject(f.DC()->m_hDC, OBJ_PEN);
+    const LONG nBefore = CGdiObject::GetLiveCount();
+    EXPECT_EQ(GRAPH_OK, f.Plot());
+    EXPECT_EQ(hPen, ::GetCurrentObject(f.DC()->m_hDC, OBJ_PEN));
+    EXPECT_EQ(nBefore, CGdiObject::GetLiveCount());
+    EXPECT_EQ(FRAME, f.m_dib.At(f.m_rectPlot.left, f.m_rectPlot.top));
 }

@@ -3,6 +3,7 @@
 // equal to the one kept before it, move the region edges down as points are
 // dropped), on data with many runs of duplicates.
 #include "RenderTestUtil.h"
+#include <limits>
 
 namespace {
 
@@ -200,6 +201,33 @@ TEST(PointReduction, TheFirstIndexOfTheSeriesIsHonoured)
     Expected e = Reference(f.Prv(), pData);
     ExpectMatches(e, pData);
     EXPECT_EQ(f.Prv()->DataToPixelX(x[500]), pData->m_pPointArray[0].x);
+}
+
+TEST(PointReduction, ExtremeValuesAndOddLengthsMatchTheLiteralWalk)
+{
+    // Noise with infinities, not-a-numbers and values far beyond the limits,
+    // in lengths that end in every remainder of a group of four.
+    PlotFixture f;
+    const float fInf = std::numeric_limits<float>::infinity();
+    const float fNaN = std::numeric_limits<float>::quiet_NaN();
+    const float aSpecial[] = { fInf, -fInf, fNaN, 1e30f, -1e30f, 3e9f };
+    unsigned int s = 99;
+    for (long n = 1; n <= 9; n++) {
+        std::vector<float> x, y;
+        for (long i = 0; i < 4093 + n; i++) {
+            s = s * 1103515245u + 12345u;
+            const unsigned int r = s >> 8;
+            x.push_back(r % 97 == 0 ? aSpecial[r % 6] : (float)(r % 1000) / 1000.0f);
+            y.push_back(r % 89 == 0 ? aSpecial[(r / 7) % 6] : (float)(r % 7));
+        }
+        CString strName;
+        strName.Format("noise %ld", n);
+        CPlotData* pData = f.Add(strName, x, y, BLUE);
+        PlotFixture::AddRegion(pData, 5, 17 + n, MAGENTA, PS_SOLID);
+        PlotFixture::AddRegion(pData, 2000, 4000 + n, MAGENTA, PS_SOLID);
+        f.Prv()->OptimizePoints(pData);
+        ExpectMatches(Reference(f.Prv(), pData), pData);
+    }
 }
 
 TEST(PointReduction, MissingDataKeepsTheOldPixels)

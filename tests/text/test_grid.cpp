@@ -241,3 +241,35 @@ TEST(Grid, ScaledContextDrawsGridInDevicePixels)
     for (int i = 1; i <= 9; i++)
         EXPECT_EQ(2 * p->m_nXTicPixel[i], columns[i - 1]) << i;
 }
+
+TEST(Grid, WholePlotPutsTicsGridAndNumbersOnTheFilledPlot)
+{
+    GraphOnCanvas g(400, 300, GS_NOWINDOW, 0x808080);
+    CGraphPrv* p = g.Prv();
+    CGraph& graph = g.m_graph;
+    graph.SetTicMarkType(0, 0, NULL);
+    graph.SetGridAttributes(0x1A, crGrid, PS_SOLID);
+    graph.SetBackgroundColor(0xF0F0F0);
+    graph.SetXAxisNumFmt("%.1f");
+    graph.SetXAxisLimits(0.0, 10.0);
+    ASSERT_EQ(GRAPH_OK, graph.Plot(g.DC(), 0));
+
+    const CRect r = p->m_rectPlot;
+    DibCanvas& c = g.m_canvas;
+    const int nMinor = g.Metrics().tmHeight / 4;
+    // The grid at every second tic over the background; the tics of the
+    // odd indices show on the background between the grid lines.
+    for (int i = 1; i <= 9; i++) {
+        const int x = p->m_nXTicPixel[i];
+        const COLORREF crMiddle = c.At(x, (r.top + r.bottom) / 2);
+        EXPECT_EQ(i % 2 == 0 ? crGrid : 0xF0F0F0u, crMiddle) << i;
+        if (i % 2 == 1) {
+            EXPECT_EQ(crGrid, c.At(x, r.bottom - nMinor + 1)) << i;
+            EXPECT_EQ(0xF0F0F0u, c.At(x, r.bottom - nMinor)) << i;
+        }
+    }
+    // The X numbers stand in their rectangles outside the plot.
+    EXPECT_GT(c.CountOther(p->m_rectLimit[0].left, p->m_rectLimit[0].top, p->m_rectLimit[0].right,
+                           p->m_rectLimit[0].bottom, 0x808080), 0);
+    EXPECT_GE(p->m_rectLimit[0].top, r.bottom);
+}
