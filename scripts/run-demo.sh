@@ -5,7 +5,13 @@ set -euo pipefail
 here="$(cd "$(dirname "$0")" && pwd)"
 build="${1:-build}"
 cd "$build/bin"
-if [ -z "${DISPLAY:-}" ]; then
-    exec "$here/withdisplay.sh" wine ./graphdemo.exe --headless
+if [ -n "${DISPLAY:-}" ]; then
+    exec "$here/withdisplay.sh" wine ./graphdemo.exe
 fi
-exec "$here/withdisplay.sh" wine ./graphdemo.exe
+"$here/withdisplay.sh" wine ./graphdemo.exe --headless
+for picture in graphdemo.png graphdemo.bmp; do
+    if [ -f "$picture" ]; then
+        echo "demo: the picture of the graph is $(pwd)/$picture"
+        break
+    fi
+done
