@@ -1,9 +1,18 @@
-// Placeholder until the marker line lands: the limit setters sg_xrange and
-// sg_yrange call UpdateMarkerLinePos when a marker line exists, which no
-// graph has yet. The marker line code replaces this file.
+// Placeholders until the marker line lands. No graph has a marker line yet
+// (m_pMarkerLine stays null), so there is nothing to move when the limits
+// change, nor to follow when a series is removed or gets new arrays. The
+// marker line code replaces this file.
 #include "graph/GraphPrv.h"
 
 int CGraphPrv::UpdateMarkerLinePos()
 {
     return 1;
+}
+
+void CGraphPrv::OnSeriesRemoved(CPlotData*)
+{
+}
+
+void CGraphPrv::OnSeriesDataReplaced(CPlotData*)
+{
 }

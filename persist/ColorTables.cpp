@@ -142,6 +142,8 @@ int CGraphPrv::GetNextRotatingColor(CLineColor& color)
 {
     if (m_nGraphColorsMode != GRAPH_COLORS_ROTATING)
         return GRAPH_WRONGCOLORMODE;
+    if (m_pGraphColors == NULL || m_nGraphColors < 1)
+        return GRAPH_NOCOLOR;
     const CLineColor& entry = m_pGraphColors[m_nNextRotatingColor];
     color.m_strName = entry.m_strName;
     color.m_crLine = entry.m_crLine;

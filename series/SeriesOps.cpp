@@ -83,6 +83,10 @@ int CGraphPrv::FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD 
 
     // The look comes from the colour mode.
     if (m_nGraphColorsMode == GRAPH_COLORS_ROTATING) {
+        // A table without entries (the library's own could not be built)
+        // gives no look, as a name without an entry does in mode 3.
+        if (m_pGraphColors == NULL || m_nGraphColors < 1)
+            return GRAPH_NOCOLOR;
         const CLineColor& entry = m_pGraphColors[m_nNextRotatingColor];
         pData->m_crLine = entry.m_crLine;
         pData->m_nLineStyle = entry.m_nLineStyle;
