@@ -35,6 +35,15 @@ CGraphPrv::CGraphPrv()
     m_nYTicCount[0] = m_nYTicCount[1] = 0;
     m_nYTicType[0] = m_nYTicType[1] = 1;
     m_fYResolution[0] = m_fYResolution[1] = 0.0f;
+    // Fields that their operations fill before use get a harmless value
+    // meanwhile: an early Rpt conversion maps a pixel to itself.
+    m_dXScale = 1.0;
+    m_dXOffset = 0.0;
+    m_dYScale[0] = m_dYScale[1] = 1.0;
+    m_dYOffset[0] = m_dYOffset[1] = 0.0;
+    m_lNotifyMask = 0;
+    m_pSelectedLabel = NULL;
+    m_nCursorHitTest = 0;
     // Filled by the first tic pixel computation; zero until then so that no
     // copy of one axis to another reads indeterminate values.
     memset(m_nMinorTicCount, 0, sizeof(m_nMinorTicCount));
@@ -53,6 +62,7 @@ CGraphPrv::CGraphPrv()
         m_dYTicValue[1][i] = (m_dYMax[1] - m_dYMin[1]) * dEleventh * i;
         m_nXTicPixel[i] = 0;
         m_nYTicPixel[0][i] = 0;
+        m_nYTicPixel[1][i] = 0;   // zero too, so that nothing reads an indeterminate value
     }
 
     // The plot cursor always comes from the library itself.
