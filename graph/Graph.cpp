@@ -103,6 +103,18 @@ double CGraph::PixelToDataX(int nX) { return m_pGraphPrv->PixelToDataX(nX); }
 double CGraph::PixelToDataY(int nY, int nAxis) { return m_pGraphPrv->PixelToDataY(nY, nAxis); }
 double CGraph::PixelToDataXRpt(int nX) { return m_pGraphPrv->PixelToDataXRpt(nX); }
 double CGraph::PixelToDataYRpt(int nY, int nAxis) { return m_pGraphPrv->PixelToDataYRpt(nY, nAxis); }
+int CGraph::Radar() { return m_pGraphPrv->Radar(); }
+int CGraph::Radar(WORD wFlags) { return m_pGraphPrv->Radar(wFlags); }
+int CGraph::RadarPlotData(CString& strName, long lFlags) { return m_pGraphPrv->RadarPlotData(strName, lFlags); }
+int CGraph::SetRadarType(WORD wFlags) { return m_pGraphPrv->SetRadarType(wFlags); }
+int CGraph::GetRadarType(WORD* pwFlags) { return m_pGraphPrv->GetRadarType(pwFlags); }
+int CGraph::SetRadarPercent(double dXPercent, double dYPercent) { return m_pGraphPrv->SetRadarPercent(dXPercent, dYPercent); }
+int CGraph::GetRadarPercent(double& dXPercent, double& dYPercent) { return m_pGraphPrv->GetRadarPercent(dXPercent, dYPercent); }
+int CGraph::EnableRadarDblClick(int bEnable) { return m_pGraphPrv->EnableRadarDblClick(bEnable); }
+int CGraph::EnableRadarPercentControls(int bEnable) { return m_pGraphPrv->EnableRadarPercentControls(bEnable); }
+int CGraph::IsRadarPercentControlsEnabled() { return m_pGraphPrv->IsRadarPercentControlsEnabled(); }
+int CGraph::EnableRadarAxisControls(int bEnable) { return m_pGraphPrv->EnableRadarAxisControls(bEnable); }
+int CGraph::IsRadarAxisControlsEnabled() { return m_pGraphPrv->IsRadarAxisControlsEnabled(); }
 // (axes section)
 
 // Interaction

@@ -98,6 +98,19 @@ public:
     double PixelToDataY(int nY, int nAxis);
     double PixelToDataXRpt(int nX);
     double PixelToDataYRpt(int nY, int nAxis);
+    // Automatic scaling to the data ("Radar").
+    int Radar();
+    int Radar(WORD wFlags);
+    int RadarPlotData(CString& strName, long lFlags);
+    int SetRadarType(WORD wFlags);
+    int GetRadarType(WORD* pwFlags);
+    int SetRadarPercent(double dXPercent, double dYPercent);
+    int GetRadarPercent(double& dXPercent, double& dYPercent);
+    int EnableRadarDblClick(int bEnable);
+    int EnableRadarPercentControls(int bEnable);
+    int IsRadarPercentControlsEnabled();
+    int EnableRadarAxisControls(int bEnable);
+    int IsRadarAxisControlsEnabled();
     // (axes section)
 
     // ---- Interaction ----------------------------------------------------------

@@ -133,6 +133,21 @@ public:
     void XformPlotData(CPlotData* pData, POINT* pPoints);
     int IsPointInPlotRect(double& dValue, int nKind);
     int IsPointInPlotRect(int& nPixel, int nKind);
+    // Automatic scaling ("Radar"): limits from the data with a margin in
+    // percent. Radar() scales the axes of m_wRadarType, Radar(flags) those of
+    // the RADAR_ bits, RadarPlotData one series from its stored extent.
+    int Radar();
+    int Radar(WORD wFlags);
+    int RadarPlotData(CString& strName, long lFlags);
+    int SetRadarType(WORD wFlags);
+    int GetRadarType(WORD* pwFlags);
+    int SetRadarPercent(double dXPercent, double dYPercent);
+    int GetRadarPercent(double& dXPercent, double& dYPercent);
+    int EnableRadarDblClick(int bEnable);
+    int EnableRadarPercentControls(int bEnable);
+    int IsRadarPercentControlsEnabled();
+    int EnableRadarAxisControls(int bEnable);
+    int IsRadarAxisControlsEnabled();
     // (axes section)
 
     // ---- interact/: notifications, tools, legend ----------------------------
@@ -242,7 +257,7 @@ protected:
     void TakeOffLegend();
     int GetAveWidthOfNumericChar(CDC* pDC);
     CString GetMaxLenString();
-    // The extent of one series, as the limits stand.
+    // The extent of one series, smaller values in the minimum fields.
     void GetRadarValues(CPlotData* pData);
     // The limit setters: the narrow-pair rule, the store, and what follows a
     // change; bRange is set for sg_xrange and sg_yrange, which also move the

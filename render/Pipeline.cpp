@@ -45,6 +45,8 @@ int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
 {
     if (m_dwStyle & GS_NOPLOT)
         return GRAPH_NOTAVAILABLE;
+    if (m_nAutoScaleMode)
+        Radar(RADAR_X | RADAR_YLEFT | RADAR_YRIGHT);   // always all three axes
 
     if (!bPointsOnly) {
         const BOOL bColor = IsColorDevice(pDC);
