@@ -23,6 +23,12 @@ CGraph::~CGraph()
 void CGraph::Serialize(CArchive& ar) { m_pGraphPrv->Serialize(ar); }
 
 // Lifetime and window
+CGraph& CGraph::operator=(const CGraph& src)
+{
+    *m_pGraphPrv = *src.m_pGraphPrv;
+    return *this;
+}
+void CGraph::CopyAppearance(CGraph& dest) const { m_pGraphPrv->CopyAppearance(*dest.m_pGraphPrv); }
 int CGraph::CreateGraph(CWnd* pParent, HINSTANCE hInstance, CRect& rect, DWORD dwStyle, UINT nID, long lMenuConfig)
     { return m_pGraphPrv->CreateGraph(pParent, hInstance, rect, dwStyle, nID, lMenuConfig); }
 int CGraph::ShowGraph() { return m_pGraphPrv->ShowGraph(); }
@@ -142,4 +148,15 @@ int CGraph::AddReferenceLine(CString strName, DWORD dwFlags, double dPosition)
     { return m_pGraphPrv->AddReferenceLine(strName, dwFlags, dPosition); }
 int CGraph::RemoveReferenceLine(CString strName) { return m_pGraphPrv->RemoveReferenceLine(strName); }
 int CGraph::RemoveAllReferenceLines() { return m_pGraphPrv->RemoveAllReferenceLines(); }
+int CGraph::AddPlotDataLabel(const CString& strName, const CString& strLabel, double dX, double dY, int nMark,
+                             const CString& strText)
+    { return m_pGraphPrv->AddPlotDataLabel(strName, strLabel, dX, dY, nMark, strText); }
+int CGraph::RemovePlotDataLabel(const CString& strName, const CString& strLabel)
+    { return m_pGraphPrv->RemovePlotDataLabel(strName, strLabel); }
+int CGraph::RemoveAllPlotDataLabels(const CString& strName) { return m_pGraphPrv->RemoveAllPlotDataLabels(strName); }
+int CGraph::AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark)
+    { return m_pGraphPrv->AnnotatePoint(dX, dY, nYAxis, crColor, nMark); }
+int CGraph::AnnotateLine(CString& strName, int nMark, int nStep) { return m_pGraphPrv->AnnotateLine(strName, nMark, nStep); }
+int CGraph::LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC)
+    { return m_pGraphPrv->LabelPoint(dX, dY, nYAxis, crColor, nMark, strText, pDC); }
 // (render section)

@@ -24,6 +24,10 @@ public:
     virtual void Serialize(CArchive& ar);
 
     // ---- Lifetime and window ------------------------------------------------
+    // A windowless drawing copy of another graph; the look and limits of this
+    // graph onto another.
+    CGraph& operator=(const CGraph& src);
+    void CopyAppearance(CGraph& dest) const;
     int CreateGraph(CWnd* pParent, HINSTANCE hInstance, CRect& rect, DWORD dwStyle, UINT nID, long lMenuConfig);
     int ShowGraph();
     int HideGraph();
@@ -133,6 +137,13 @@ public:
     int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
     int RemoveReferenceLine(CString strName);
     int RemoveAllReferenceLines();
+    int AddPlotDataLabel(const CString& strName, const CString& strLabel, double dX, double dY, int nMark,
+                         const CString& strText);
+    int RemovePlotDataLabel(const CString& strName, const CString& strLabel);
+    int RemoveAllPlotDataLabels(const CString& strName);
+    int AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark);
+    int AnnotateLine(CString& strName, int nMark, int nStep);
+    int LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC);
     // (render section)
 
     CGraphPrv* m_pGraphPrv;   // the implementation, made here, destroyed here, never replaced

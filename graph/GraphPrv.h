@@ -68,6 +68,14 @@ public:
     int SetXAxisNumFmt(const CString& strFormat);
     int SetYAxisNumFmt(int nAxis, const CString& strFormat);
 
+    // ---- graph/: copying ----------------------------------------------------
+    // A windowless drawing copy of src: its frame, limits and tic tables,
+    // without data. The language's copy construction stays unavailable.
+    CGraphPrv& operator=(const CGraphPrv& src);
+    CGraphPrv(const CGraphPrv&) = delete;
+    // The look and the limits of this graph onto dest, through dest's setters.
+    void CopyAppearance(CGraphPrv& dest) const;
+
     // ---- series/: the series of the graph -----------------------------------
     int AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, float* pfY, long lPoints,
                     DWORD crColor, int nLineStyle, int nAnnotate);
@@ -231,6 +239,21 @@ public:
     // After a paint of the plot: the cross hair and the marker line inverted
     // again over the finished picture, inside rectDirty.
     void RedrawOverlays(CDC* pDC, const CRect& rectDirty);
+    // Point labels a series remembers and draws at each paint; an unknown
+    // label name is no failure for the remover.
+    int AddPlotDataLabel(const CString& strName, const CString& strLabel, double dX, double dY, int nMark,
+                         const CString& strText);
+    int RemovePlotDataLabel(const CString& strName, const CString& strLabel);
+    int RemoveAllPlotDataLabels(const CString& strName);
+    // Marks and labels drawn once: on the window (wiped by the next paint),
+    // or for LabelPoint into pDC when it is given. AnnotateLine marks every
+    // nStep-th point; a step below 1 is refused with GRAPH_BADARG.
+    int AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark);
+    int AnnotateLine(CString& strName, int nMark, int nStep);
+    int LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC);
+    // The font of the marks and label texts: the graph's font at its point
+    // size for the device of pDC, turned by nEscapement tenths of a degree.
+    void CreateMarkFont(CFont& font, CDC* pDC, int nEscapement);
     // (render section)
 
 protected:
@@ -289,6 +312,11 @@ protected:
     // Wait, on Windows 9x, until the other plotter has cleared its flag.
     void DelayBG();
     void DelayFG();
+    // One mark at a data position, with no test against the plot.
+    void Annotate(CDC* pDC, double dX, double dY, int nYAxis, int nMark);
+    // LabelPoint on a context: mark, then the text upward beside it.
+    void DrawPointLabel(CDC* pDC, double dX, double dY, int nYAxis, COLORREF crColor, int nMark,
+                        const CString& strText);
     // (render protected section)
 
     // ---- message handlers ---------------------------------------------------

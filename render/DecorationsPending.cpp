@@ -5,18 +5,11 @@
 #include "graph/GraphPrv.h"
 #include "series/PlotData.h"
 
-void CGraphPrv::AnnotatePlotData(CDC*, CPlotData*) {}
-
 void CGraphPrv::PlotAreas(CDC*) {}
 
 void CGraphPrv::DrawFloatingLabel(CDC*) {}
 
 void CGraphPrv::RedrawOverlays(CDC*, const CRect&) {}
-
-int CPlotData::DrawLabels(CDC*, CGraphPrv*)
-{
-    return 1;
-}
 
 int CPlotData::DrawPointHighlights(CDC*, CGraphPrv*)
 {

@@ -1,56 +1,28 @@
-// Tests of windows with message maps: real messages reach the handlers of a
-// derived class with their arguments cracked, control notifications reach
-// the parent or are reflected to the control, Default() reaches the default
-// procedure, destruction runs its handlers in order and unbinds the object,
-// existing windows can be subclassed and released again, nothing thrown in
-// a handler leaves the window procedure, and owner-drawn list boxes draw,
-// measure and free their own items.
-#include "gtest/gtest.h"
-#include "afx/afxwin.h"
+// Windows with message maps: real messages reach the handlers of a derived
+// class with their arguments cracked, control notifications reach the parent
+// or are reflected to the control, Default() reaches the default procedure,
+// destruction runs its handlers in order and unbinds the object, nothing
+// thrown in a handler leaves the window procedure, and owner-drawn list
+// boxes draw, measure and free their own items. Each handler logs what it
+// was given.
+#include "TestUtil.h"
 #include "afx/afxctrl.h"
 
 #include <commctrl.h>
 #include <algorithm>
-#include <thread>
-#include <string.h>
 #include <string>
 #include <vector>
 
 namespace {
 
-const UINT IDC_TEST_BUTTON = 101;
-const UINT IDC_TEST_EDIT = 102;    // reflects its own EN_CHANGE
-const UINT IDC_PLAIN_EDIT = 103;   // leaves EN_CHANGE to the parent
-const UINT IDC_FOREIGN_EDIT = 104;
-const UINT IDC_OWNER_LIST = 105;
-const UINT IDM_TEST_COMMAND = 200;
-const UINT IDM_RANGE_FIRST = 300;
-const UINT IDM_RANGE_LAST = 305;
+const UINT IDC_BUTTON = 101;
+const UINT IDC_REFLECT_EDIT = 102;   // reflects its own EN_CHANGE
+const UINT IDC_PLAIN_EDIT = 103;     // leaves EN_CHANGE to the parent
+const UINT IDC_LIST = 105;
+const UINT IDM_COMMAND = 200;
+const UINT IDM_FIRST = 300;
+const UINT IDM_LAST = 305;
 const UINT WM_TEST_CUSTOM = WM_APP + 17;   // answers wParam * 1000 + lParam
-
-// Pumps this thread's messages until done() holds or nMs pass.
-template <class PRED>
-bool PumpUntil(PRED done, int nMs = 2000)
-{
-    DWORD dwStart = ::GetTickCount();
-    for (;;) {
-        MSG msg;
-        while (::PeekMessageA(&msg, NULL, 0, 0, PM_REMOVE)) {
-            ::TranslateMessage(&msg);
-            ::DispatchMessageA(&msg);
-        }
-        if (done())
-            return true;
-        if ((int)(::GetTickCount() - dwStart) > nMs)
-            return false;
-        ::Sleep(5);
-    }
-}
-
-void Pump()
-{
-    PumpUntil([] { return true; }, 0);
-}
 
 LPCSTR TestWndClass()
 {
@@ -70,15 +42,14 @@ int CTestException::s_nDeleted = 0;
 class CReflectEdit : public CEdit
 {
 public:
-    int m_nReflectedChanges = 0;
-    int m_nReflectedNotifies = 0;
+    std::vector<std::string> m_log;
 
 protected:
-    afx_msg void OnReflectChange() { ++m_nReflectedChanges; }
-    afx_msg void OnReflectRClick(NMHDR* pNMHDR, LRESULT* pResult)
+    afx_msg void OnReflectChange() { m_log.push_back("change"); }
+    afx_msg void OnReflectRClick(NMHDR*, LRESULT* pResult)
     {
-        ++m_nReflectedNotifies;
-        *pResult = pNMHDR->code == (UINT)NM_RCLICK ? 55 : 0;
+        m_log.push_back("rclick");
+        *pResult = 55;
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -88,170 +59,83 @@ BEGIN_MESSAGE_MAP(CReflectEdit, CEdit)
     ON_NOTIFY_REFLECT(NM_RCLICK, OnReflectRClick)
 END_MESSAGE_MAP()
 
-// An edit control that counts the characters it is given and passes them on.
-class CCountingEdit : public CEdit
-{
-public:
-    int m_nChars = 0;
-    UINT m_nLastChar = 0;
-    UINT m_nLastRepeat = 0;
-
-protected:
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags)
-    {
-        ++m_nChars;
-        m_nLastChar = nChar;
-        m_nLastRepeat = nRepCnt;
-        CEdit::OnChar(nChar, nRepCnt, nFlags);
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CCountingEdit, CEdit)
-    ON_WM_CHAR()
-END_MESSAGE_MAP()
-
-// The window under test: records what each handler was given.
+// The window under test.
 class CTestWnd : public CWnd
 {
 public:
-    std::vector<std::string> m_events;
-
+    std::vector<std::string> m_log;
     bool m_bThrowInCreate = false;
-    int m_nCreates = 0;
-    std::string m_strCreateName;
-
-    int m_nLButtonDowns = 0;
-    UINT m_nLButtonFlags = 0;
-    CPoint m_ptLButton;
-
-    int m_nTimers = 0;
-    UINT_PTR m_nLastTimer = 0;
-
-    int m_nSizes = 0;
-    UINT m_nSizeType = 99;
-    int m_cx = -1;
-    int m_cy = -1;
-
-    int m_nButtonClicks = 0;
-    int m_nParentEditChanges = 0;   // must stay 0: the edit reflects it
-    int m_nPlainEditChanges = 0;
-    int m_nCommands = 0;
-    UINT m_nRangeId = 0;
-
-    int m_nNotifies = 0;
-    NMHDR m_lastNotify = {};
-
-    int m_nCustom = 0;
-    int m_nGetTexts = 0;
-
-    int m_nSetCursors = 0;
-    CWnd* m_pCursorWnd = NULL;
-    UINT m_nHitTest = 0;
-    UINT m_nMouseMessage = 0;
-
-    int m_nContextMenus = 0;
-    CWnd* m_pContextWnd = NULL;
-    CPoint m_ptContext;
-
     bool m_bThrowInPaint = false;
-    int m_nPaints = 0;
-    CRect m_rcPaint;
 
-    HWND m_hWndAtNcDestroy = NULL;
-    bool m_bBoundAfterNcDestroy = true;
+    void Log(const std::string& str) { m_log.push_back(str); }
+    int CountOf(const char* pszPrefix) const
+    {
+        return (int)std::count_if(m_log.begin(), m_log.end(), [&](const std::string& s) {
+            return s.compare(0, strlen(pszPrefix), pszPrefix) == 0;
+        });
+    }
 
 protected:
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
+    afx_msg int OnCreate(LPCREATESTRUCT lpcs)
     {
-        ++m_nCreates;
-        m_events.push_back("create");
-        m_strCreateName = lpCreateStruct->lpszName != NULL ? lpCreateStruct->lpszName : "";
+        Log(Str("create %s", lpcs->lpszName));
         if (m_bThrowInCreate)
             throw new CTestException;
-        return CWnd::OnCreate(lpCreateStruct);
+        return CWnd::OnCreate(lpcs);
     }
     afx_msg void OnDestroy()
     {
-        m_events.push_back("destroy");
+        Log("destroy");
         CWnd::OnDestroy();
     }
     afx_msg void OnNcDestroy()
     {
-        m_events.push_back("ncdestroy");
-        m_hWndAtNcDestroy = m_hWnd;
+        Log("ncdestroy");
         CWnd::OnNcDestroy();
-        m_bBoundAfterNcDestroy = m_hWnd != NULL;
-        m_events.push_back("after-ncdestroy");
+        Log(m_hWnd == NULL ? "unbound" : "still bound");
     }
-    void PostNcDestroy() override { m_events.push_back("postncdestroy"); }
+    void PostNcDestroy() override { Log("postncdestroy"); }
 
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point)
-    {
-        ++m_nLButtonDowns;
-        m_nLButtonFlags = nFlags;
-        m_ptLButton = point;
-    }
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint pt) { Log(Str("ldown %u %ld,%ld", nFlags, pt.x, pt.y)); }
     afx_msg void OnRButtonDown(UINT, CPoint) { throw new CTestException; }
     afx_msg void OnRButtonUp(UINT, CPoint) { throw 5; }
     afx_msg void OnRButtonDblClk(UINT, CPoint) { AfxThrowMemoryException(); }
-    afx_msg void OnTimer(UINT_PTR nIDEvent)
+    afx_msg void OnTimer(UINT_PTR nIDEvent) { Log(Str("timer %u", (UINT)nIDEvent)); }
+    afx_msg void OnSize(UINT nType, int cx, int cy) { Log(Str("size %u %d,%d", nType, cx, cy)); }
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT nMessage)
     {
-        ++m_nTimers;
-        m_nLastTimer = nIDEvent;
+        Log(Str("setcursor %d %d %u", pWnd == this, (short)nHitTest, nMessage));
+        return TRUE;
     }
-    afx_msg void OnSize(UINT nType, int cx, int cy)
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos) { Log(Str("menu %d %ld,%ld", pWnd == this, pos.x, pos.y)); }
+    afx_msg void OnButtonClicked() { Log("clicked"); }
+    afx_msg void OnReflectedEditChange() { Log("parent saw the reflected change"); }
+    afx_msg void OnPlainEditChange() { Log("plain change"); }
+    afx_msg void OnCommand() { Log("command"); }
+    afx_msg void OnRangeCommand(UINT nID) { Log(Str("range %u", nID)); }
+    afx_msg void OnButtonNotify(NMHDR* pNMHDR, LRESULT* pResult)
     {
-        ++m_nSizes;
-        m_nSizeType = nType;
-        m_cx = cx;
-        m_cy = cy;
-    }
-    afx_msg void OnButtonClicked() { ++m_nButtonClicks; }
-    afx_msg void OnReflectedEditChange() { ++m_nParentEditChanges; }
-    afx_msg void OnPlainEditChange() { ++m_nPlainEditChanges; }
-    afx_msg void OnTestCommand() { ++m_nCommands; }
-    afx_msg void OnRangeCommand(UINT nID) { m_nRangeId = nID; }
-    afx_msg void OnButtonNotifyClick(NMHDR* pNMHDR, LRESULT* pResult)
-    {
-        ++m_nNotifies;
-        m_lastNotify = *pNMHDR;
+        Log(Str("notify %p %u %d", pNMHDR->hwndFrom, (UINT)pNMHDR->idFrom, (int)pNMHDR->code));
         *pResult = 77;
     }
-    afx_msg LRESULT OnCustom(WPARAM wParam, LPARAM lParam)
-    {
-        ++m_nCustom;
-        return (LRESULT)wParam * 1000 + lParam;
-    }
+    afx_msg LRESULT OnCustom(WPARAM wParam, LPARAM lParam) { return (LRESULT)wParam * 1000 + lParam; }
     afx_msg LRESULT OnGetText(WPARAM, LPARAM)
     {
-        ++m_nGetTexts;
+        Log("gettext");
         // A message sent from inside a handler must not change what
         // Default() passes on for the outer one.
         SendMessage(WM_GETTEXTLENGTH);
         return Default();
     }
-    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
-    {
-        ++m_nSetCursors;
-        m_pCursorWnd = pWnd;
-        m_nHitTest = nHitTest;
-        m_nMouseMessage = message;
-        return TRUE;
-    }
-    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos)
-    {
-        ++m_nContextMenus;
-        m_pContextWnd = pWnd;
-        m_ptContext = pos;
-    }
     afx_msg void OnPaint()
     {
-        ++m_nPaints;
-        if (m_bThrowInPaint)
+        if (m_bThrowInPaint) {
+            Log("paint throws");
             AfxThrowResourceException();   // before the window is validated
+        }
         CPaintDC dc(this);
-        m_rcPaint = dc.m_ps.rcPaint;
+        const RECT& r = dc.m_ps.rcPaint;
+        Log(Str("paint %ld,%ld,%ld,%ld", r.left, r.top, r.right, r.bottom));
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -269,28 +153,28 @@ BEGIN_MESSAGE_MAP(CTestWnd, CWnd)
     ON_WM_SETCURSOR()
     ON_WM_CONTEXTMENU()
     ON_WM_PAINT()
-    ON_BN_CLICKED(IDC_TEST_BUTTON, OnButtonClicked)
-    ON_EN_CHANGE(IDC_TEST_EDIT, OnReflectedEditChange)
+    ON_BN_CLICKED(IDC_BUTTON, OnButtonClicked)
+    ON_EN_CHANGE(IDC_REFLECT_EDIT, OnReflectedEditChange)
     ON_EN_CHANGE(IDC_PLAIN_EDIT, OnPlainEditChange)
-    ON_COMMAND(IDM_TEST_COMMAND, OnTestCommand)
-    ON_COMMAND_RANGE(IDM_RANGE_FIRST, IDM_RANGE_LAST, OnRangeCommand)
-    ON_NOTIFY(NM_CLICK, IDC_TEST_BUTTON, OnButtonNotifyClick)
+    ON_COMMAND(IDM_COMMAND, OnCommand)
+    ON_COMMAND_RANGE(IDM_FIRST, IDM_LAST, OnRangeCommand)
+    ON_NOTIFY(NM_CLICK, IDC_BUTTON, OnButtonNotify)
     ON_MESSAGE(WM_TEST_CUSTOM, OnCustom)
     ON_MESSAGE(WM_GETTEXT, OnGetText)
 END_MESSAGE_MAP()
 
-bool CreateTestWnd(CTestWnd& wnd, DWORD dwStyle = WS_OVERLAPPEDWINDOW | WS_VISIBLE)
+bool CreateTestWnd(CWnd& wnd, DWORD dwStyle = WS_OVERLAPPEDWINDOW | WS_VISIBLE)
 {
     return wnd.CreateEx(0, TestWndClass(), "afx test", dwStyle, 10, 10, 320, 240, NULL, NULL) != FALSE;
 }
 
 // A window that deletes itself when its window is gone. Its storage is a
-// static block, so that the test can see whether anything wrote into the
-// object after it was deleted.
+// static block that keeps the freed object's window handle, so that the
+// test sees whether anything wrote into the object after it was deleted.
 class CSelfDeletingWnd : public CWnd
 {
 public:
-    CSelfDeletingWnd() { s_nHWndOffset = (size_t)((char*)&m_hWnd - (char*)this); }
+    CSelfDeletingWnd() { s_nOffset = (size_t)((char*)&m_hWnd - (char*)this); }
     static void* operator new(size_t nSize)
     {
         EXPECT_LE(nSize, sizeof(s_block));
@@ -298,27 +182,25 @@ public:
     }
     static void operator delete(void* p)
     {
-        // Leave the block as freed memory that still names the window.
         memset(p, 0xCD, sizeof(s_block));
-        memcpy((char*)p + s_nHWndOffset, &s_hWndLast, sizeof(HWND));
+        memcpy(s_block + s_nOffset, &s_hWndLast, sizeof(HWND));
         s_bDeleted = true;
     }
     void PostNcDestroy() override { delete this; }
-
     static HWND HWndSlot()
     {
         HWND h;
-        memcpy(&h, s_block + s_nHWndOffset, sizeof(HWND));
+        memcpy(&h, s_block + s_nOffset, sizeof(HWND));
         return h;
     }
 
     alignas(16) static char s_block[512];
-    static size_t s_nHWndOffset;
+    static size_t s_nOffset;
     static HWND s_hWndLast;
     static bool s_bDeleted;
 };
 alignas(16) char CSelfDeletingWnd::s_block[512];
-size_t CSelfDeletingWnd::s_nHWndOffset = 0;
+size_t CSelfDeletingWnd::s_nOffset = 0;
 HWND CSelfDeletingWnd::s_hWndLast = NULL;
 bool CSelfDeletingWnd::s_bDeleted = false;
 
@@ -330,12 +212,12 @@ public:
     BOOL m_bChildCreated = FALSE;
 
 protected:
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
+    afx_msg int OnCreate(LPCREATESTRUCT lpcs)
     {
-        if (CWnd::OnCreate(lpCreateStruct) == -1)
+        if (CWnd::OnCreate(lpcs) == -1)
             return -1;
-        m_bChildCreated = m_child.CreateEx(0, TestWndClass(), "child", WS_CHILD | WS_VISIBLE,
-                                           0, 0, 50, 40, m_hWnd, (HMENU)(UINT_PTR)7);
+        m_bChildCreated = m_child.CreateEx(0, TestWndClass(), "child", WS_CHILD | WS_VISIBLE, 0, 0, 50, 40, m_hWnd,
+                                           (HMENU)(UINT_PTR)7);
         return 0;
     }
     DECLARE_MESSAGE_MAP()
@@ -350,42 +232,28 @@ class COwnerList : public CListBox
 {
 public:
     static const UINT kItemHeight = 19;
-    int m_nMeasures = 0;
-    UINT m_nMeasureCtlType = 0;
-    UINT m_nMeasureCtlID = 0;
-    std::vector<UINT> m_drawnItems;
-    std::vector<CRect> m_drawnRects;
-    bool m_bDrawHwndOk = true;
-    std::vector<UINT> m_deletedItems;
-    std::vector<ULONG_PTR> m_deletedData;
-    bool m_bDeleteHwndOk = true;
+    std::vector<std::string> m_log;
 
-    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override
+    void MeasureItem(LPMEASUREITEMSTRUCT p) override
     {
-        ++m_nMeasures;
-        m_nMeasureCtlType = lpMeasureItemStruct->CtlType;
-        m_nMeasureCtlID = lpMeasureItemStruct->CtlID;
-        lpMeasureItemStruct->itemHeight = kItemHeight;
+        m_log.push_back(Str("measure %u %u", p->CtlType, p->CtlID));
+        p->itemHeight = kItemHeight;
     }
-    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override
+    void DrawItem(LPDRAWITEMSTRUCT p) override
     {
-        if (lpDrawItemStruct->CtlType != ODT_LISTBOX || lpDrawItemStruct->hwndItem != m_hWnd)
-            m_bDrawHwndOk = false;
-        if (lpDrawItemStruct->itemID == (UINT)-1)
+        if (p->itemID == (UINT)-1)
             return;
-        m_drawnItems.push_back(lpDrawItemStruct->itemID);
-        m_drawnRects.push_back(CRect(lpDrawItemStruct->rcItem));
+        m_log.push_back(Str("draw %u %d %ld %ld", p->itemID, p->CtlType == ODT_LISTBOX && p->hwndItem == m_hWnd,
+                            p->rcItem.top, p->rcItem.bottom - p->rcItem.top));
         CDC dc;
-        dc.Attach(lpDrawItemStruct->hDC);
-        dc.FillSolidRect(&lpDrawItemStruct->rcItem, RGB(0, 0, 255));
+        dc.Attach(p->hDC);
+        dc.FillSolidRect(&p->rcItem, RGB(0, 0, 255));
         dc.Detach();
     }
-    void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override
+    void DeleteItem(LPDELETEITEMSTRUCT p) override
     {
-        if (lpDeleteItemStruct->CtlType != ODT_LISTBOX || lpDeleteItemStruct->hwndItem != m_hWnd)
-            m_bDeleteHwndOk = false;
-        m_deletedItems.push_back(lpDeleteItemStruct->itemID);
-        m_deletedData.push_back(lpDeleteItemStruct->itemData);
+        m_log.push_back(Str("delete %u %d 0x%x", p->itemID, p->CtlType == ODT_LISTBOX && p->hwndItem == m_hWnd,
+                            (UINT)p->itemData));
     }
 };
 
@@ -395,171 +263,94 @@ public:
 // Creation, binding and destruction
 // ---------------------------------------------------------------------------
 
-TEST(WndLife, CreateExBindsTheNewWindow)
+TEST(WndLife, CreateExBindsAndDestroyRunsTheHandlersInOrder)
 {
     CTestWnd wnd;
     ASSERT_TRUE(CreateTestWnd(wnd));
-    ASSERT_NE(nullptr, wnd.m_hWnd);
-    EXPECT_TRUE(::IsWindow(wnd.m_hWnd));
-    EXPECT_EQ(&wnd, CWnd::FromHandlePermanent(wnd.m_hWnd));
-    EXPECT_EQ(&wnd, CWnd::FromHandle(wnd.m_hWnd));
-    EXPECT_EQ(1, wnd.m_nCreates);
-    EXPECT_EQ("afx test", wnd.m_strCreateName);
-    char szClass[128] = {};
-    ::GetClassNameA(wnd.m_hWnd, szClass, sizeof(szClass));
-    EXPECT_STREQ(TestWndClass(), szClass);
-    EXPECT_EQ((LONG_PTR)&AfxWndProc, ::GetWindowLongPtrA(wnd.m_hWnd, GWLP_WNDPROC));
+    const HWND hWnd = wnd.m_hWnd;
+    EXPECT_EQ(&wnd, CWnd::FromHandlePermanent(hWnd));
+    EXPECT_EQ(&wnd, CWnd::FromHandle(hWnd));
+    EXPECT_EQ((LONG_PTR)&AfxWndProc, ::GetWindowLongPtrA(hWnd, GWLP_WNDPROC));
+    EXPECT_EQ("create afx test", wnd.m_log.front());
 
     // A window of no object: no permanent object, a temporary one on request.
-    HWND hForeign = ::CreateWindowExA(0, "STATIC", "x", WS_CHILD, 0, 0, 10, 10, wnd.m_hWnd, NULL, NULL, NULL);
-    ASSERT_NE(nullptr, hForeign);
+    HWND hForeign = ::CreateWindowExA(0, "STATIC", "x", WS_CHILD, 0, 0, 10, 10, hWnd, NULL, NULL, NULL);
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hForeign));
-    CWnd* pTemp = CWnd::FromHandle(hForeign);
-    ASSERT_NE(nullptr, pTemp);
-    EXPECT_EQ(hForeign, pTemp->m_hWnd);
+    ASSERT_NE(nullptr, CWnd::FromHandle(hForeign));
+    EXPECT_EQ(hForeign, CWnd::FromHandle(hForeign)->m_hWnd);
     EXPECT_EQ(nullptr, CWnd::FromHandle(NULL));
-    ::DestroyWindow(hForeign);
 
+    wnd.m_log.clear();
     EXPECT_TRUE(wnd.DestroyWindow());
-}
-
-TEST(WndLife, RegisteredClassNameStaysValid)
-{
-    LPCSTR lpszFirst = AfxRegisterWndClass(0);
-    std::string first(lpszFirst);
-    LPCSTR lpszSecond = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, NULL, (HBRUSH)(COLOR_BTNFACE + 1));
-    EXPECT_NE(first, std::string(lpszSecond));
-    // The first name is still the first class's name.
-    EXPECT_EQ(first, std::string(lpszFirst));
-    // The same attributes give the same class.
-    EXPECT_STREQ(lpszFirst, AfxRegisterWndClass(0));
-    WNDCLASSA wc;
-    ASSERT_TRUE(::GetClassInfoA(AfxGetInstanceHandle(), lpszSecond, &wc));
-    EXPECT_EQ((UINT)(CS_HREDRAW | CS_VREDRAW), wc.style);
-    EXPECT_EQ((HBRUSH)(COLOR_BTNFACE + 1), wc.hbrBackground);
-}
-
-TEST(WndLife, DestroyWindowRunsHandlersInOrderAndUnbinds)
-{
-    CTestWnd wnd;
-    ASSERT_TRUE(CreateTestWnd(wnd));
-    HWND hWnd = wnd.m_hWnd;
-    wnd.m_events.clear();
-    EXPECT_TRUE(wnd.DestroyWindow());
-    std::vector<std::string> expected = { "destroy", "ncdestroy", "postncdestroy", "after-ncdestroy" };
-    EXPECT_EQ(expected, wnd.m_events);
-    EXPECT_EQ(hWnd, wnd.m_hWndAtNcDestroy);
-    EXPECT_FALSE(wnd.m_bBoundAfterNcDestroy);
+    const std::vector<std::string> expected = { "destroy", "ncdestroy", "postncdestroy", "unbound" };
+    EXPECT_EQ(expected, wnd.m_log);
     EXPECT_EQ(nullptr, wnd.m_hWnd);
     EXPECT_FALSE(::IsWindow(hWnd));
+    EXPECT_FALSE(::IsWindow(hForeign));
     EXPECT_FALSE(wnd.DestroyWindow());   // nothing left to destroy
-}
 
-TEST(WndLife, WindowDestroyedFromOutsideUnbinds)
-{
-    CTestWnd wnd;
+    // Destroyed from outside: unbound all the same; the object's destructor
+    // destroys a window still bound.
     ASSERT_TRUE(CreateTestWnd(wnd));
-    HWND hWnd = wnd.m_hWnd;
-    wnd.m_events.clear();
-    ::DestroyWindow(hWnd);
+    ::DestroyWindow(wnd.m_hWnd);
     EXPECT_EQ(nullptr, wnd.m_hWnd);
-    ASSERT_EQ(4u, wnd.m_events.size());
-    EXPECT_EQ("destroy", wnd.m_events[0]);
-}
-
-TEST(WndLife, ObjectDestructorDestroysItsWindow)
-{
-    HWND hWnd = NULL;
+    HWND hLast = NULL;
     {
-        CTestWnd wnd;
-        ASSERT_TRUE(CreateTestWnd(wnd));
-        hWnd = wnd.m_hWnd;
+        CTestWnd other;
+        ASSERT_TRUE(CreateTestWnd(other));
+        hLast = other.m_hWnd;
     }
-    EXPECT_FALSE(::IsWindow(hWnd));
+    EXPECT_FALSE(::IsWindow(hLast));
 }
 
 TEST(WndLife, SelfDeletingWindowIsNotTouchedAfterDelete)
 {
-    CSelfDeletingWnd::s_bDeleted = false;
     CSelfDeletingWnd* pWnd = new CSelfDeletingWnd;
-    ASSERT_TRUE(pWnd->CreateEx(0, TestWndClass(), "self", WS_OVERLAPPED, 0, 0, 50, 50, NULL, NULL));
-    HWND hWnd = pWnd->m_hWnd;
+    ASSERT_TRUE(CreateTestWnd(*pWnd, WS_OVERLAPPED));
+    const HWND hWnd = pWnd->m_hWnd;
     CSelfDeletingWnd::s_hWndLast = hWnd;
     EXPECT_TRUE(pWnd->DestroyWindow());
     EXPECT_TRUE(CSelfDeletingWnd::s_bDeleted);
     EXPECT_FALSE(::IsWindow(hWnd));
-    // DestroyWindow must not have written into the deleted object.
-    EXPECT_EQ(hWnd, CSelfDeletingWnd::HWndSlot());
+    EXPECT_EQ(hWnd, CSelfDeletingWnd::HWndSlot());   // nothing wrote into the freed object
 }
 
-TEST(WndLife, ExceptionInCreateFailsTheCreation)
+TEST(WndLife, FailedCreationsLeaveTheObjectFree)
 {
-    int nDeleted = CTestException::s_nDeleted;
-    CTestWnd wnd;
-    wnd.m_bThrowInCreate = true;
-    EXPECT_FALSE(CreateTestWnd(wnd));
-    EXPECT_EQ(1, wnd.m_nCreates);
-    EXPECT_EQ(nullptr, wnd.m_hWnd);
-    EXPECT_EQ(nDeleted + 1, CTestException::s_nDeleted);
-
-    // The object can make a window afterwards.
-    wnd.m_bThrowInCreate = false;
-    EXPECT_TRUE(CreateTestWnd(wnd));
-    EXPECT_TRUE(wnd.DestroyWindow());
-}
-
-TEST(WndLife, CreateExOfAMissingClassFails)
-{
+    // A missing class: the next window made on this thread is not taken.
     CTestWnd wnd;
     EXPECT_FALSE(wnd.CreateEx(0, "ZPXNoSuchClass", "", WS_OVERLAPPED, 0, 0, 10, 10, NULL, NULL));
-    EXPECT_EQ(nullptr, wnd.m_hWnd);
-    EXPECT_EQ(0, wnd.m_nCreates);
-    // The next window made on this thread is not taken by this object.
     HWND hPlain = ::CreateWindowExA(0, "STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
-    ASSERT_NE(nullptr, hPlain);
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hPlain));
     EXPECT_EQ(nullptr, wnd.m_hWnd);
+    EXPECT_EQ(0, wnd.CountOf("create"));
     ::DestroyWindow(hPlain);
+
+    // An exception in OnCreate fails the creation and is deleted.
+    const int nDeleted = CTestException::s_nDeleted;
+    wnd.m_bThrowInCreate = true;
+    EXPECT_FALSE(CreateTestWnd(wnd));
+    EXPECT_EQ(1, wnd.CountOf("create"));
+    EXPECT_EQ(nullptr, wnd.m_hWnd);
+    EXPECT_EQ(nDeleted + 1, CTestException::s_nDeleted);
+    wnd.m_bThrowInCreate = false;
+    EXPECT_TRUE(CreateTestWnd(wnd));
 }
 
 TEST(WndLife, WindowCreatedInsideCreationIsBoundToItsOwnObject)
 {
     CParentWnd parent;
-    ASSERT_TRUE(parent.CreateEx(0, TestWndClass(), "parent", WS_OVERLAPPEDWINDOW, 0, 0, 200, 150, NULL, NULL));
+    ASSERT_TRUE(CreateTestWnd(parent, WS_OVERLAPPEDWINDOW));
     EXPECT_TRUE(parent.m_bChildCreated);
-    ASSERT_NE(nullptr, parent.m_child.m_hWnd);
-    EXPECT_NE(parent.m_hWnd, parent.m_child.m_hWnd);
     EXPECT_EQ(&parent, CWnd::FromHandlePermanent(parent.m_hWnd));
     EXPECT_EQ(&parent.m_child, CWnd::FromHandlePermanent(parent.m_child.m_hWnd));
     EXPECT_EQ(parent.m_hWnd, ::GetParent(parent.m_child.m_hWnd));
-    EXPECT_EQ("child", parent.m_child.m_strCreateName);
+    EXPECT_EQ("create child", parent.m_child.m_log.front());
     EXPECT_EQ(12034, parent.m_child.SendMessage(WM_TEST_CUSTOM, 12, 34));
-
     // Destroying the parent takes the child with it, and unbinds both.
     EXPECT_TRUE(parent.DestroyWindow());
     EXPECT_EQ(nullptr, parent.m_child.m_hWnd);
     EXPECT_EQ(nullptr, parent.m_hWnd);
-}
-
-TEST(WndLife, WindowsOfAnotherThread)
-{
-    // Creation and dispatch keep their state per thread.
-    LRESULT lResult = 0;
-    bool bCreated = false;
-    bool bUnbound = false;
-    std::thread worker([&]() {
-        CTestWnd wnd;
-        bCreated = CreateTestWnd(wnd, WS_OVERLAPPED);
-        if (!bCreated)
-            return;
-        lResult = wnd.SendMessage(WM_TEST_CUSTOM, 3, 4);
-        wnd.DestroyWindow();
-        bUnbound = wnd.m_hWnd == NULL && wnd.m_events.back() == "after-ncdestroy";
-    });
-    worker.join();
-    EXPECT_TRUE(bCreated);
-    EXPECT_EQ(3004, lResult);
-    EXPECT_TRUE(bUnbound);
 }
 
 // ---------------------------------------------------------------------------
@@ -572,76 +363,77 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(CreateTestWnd(m_wnd));
-        Pump();
-    }
-    void TearDown() override
-    {
-        if (m_wnd.m_hWnd != NULL)
-            m_wnd.DestroyWindow();
-        Pump();
+        TestHost::Pump();
+        m_wnd.m_log.clear();
     }
     CTestWnd m_wnd;
 };
 
-TEST_F(WndMessages, MouseButtonCarriesFlagsAndSignedPoint)
+TEST_F(WndMessages, HandlersGetCrackedArguments)
 {
-    m_wnd.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(37, 52));
-    EXPECT_EQ(1, m_wnd.m_nLButtonDowns);
-    EXPECT_EQ((UINT)(MK_LBUTTON | MK_SHIFT), m_wnd.m_nLButtonFlags);
-    EXPECT_EQ(CPoint(37, 52), m_wnd.m_ptLButton);
-    // Captured moves outside the client area come with negative coordinates.
-    m_wnd.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-5, -600));
-    EXPECT_EQ(2, m_wnd.m_nLButtonDowns);
-    EXPECT_EQ(CPoint(-5, -600), m_wnd.m_ptLButton);
-}
+    const WPARAM wSelf = (WPARAM)m_wnd.m_hWnd;
+    const struct
+    {
+        UINT nMessage;
+        WPARAM wParam;
+        LPARAM lParam;
+        const char* pszLog;   // "" when no handler may run
+    } cases[] = {
+        { WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(37, 52), "ldown 5 37,52" },
+        { WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-5, -600), "ldown 1 -5,-600" },   // captured, outside
+        { WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(40000, 35000), "size 2 40000,35000" },   // unsigned sizes
+        { WM_TIMER, 9, 0, "timer 9" },
+        { WM_SETCURSOR, wSelf, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "setcursor 1 1 512" },
+        { WM_SETCURSOR, wSelf, MAKELPARAM(HTERROR, WM_LBUTTONDOWN), "setcursor 1 -2 513" },
+        { WM_CONTEXTMENU, wSelf, MAKELPARAM(-20, -300), "menu 1 -20,-300" },   // screen left of the primary
+        { WM_CONTEXTMENU, wSelf, MAKELPARAM(-1, -1), "menu 1 -1,-1" },         // from the keyboard
+        { WM_CONTEXTMENU, wSelf, MAKELPARAM(1500, 20), "menu 1 1500,20" },
+        { WM_COMMAND, MAKEWPARAM(IDM_COMMAND, 0), 0, "command" },
+        { WM_COMMAND, MAKEWPARAM(IDM_COMMAND, 1), 0, "command" },   // from an accelerator
+        { WM_COMMAND, MAKEWPARAM(IDM_FIRST + 3, 0), 0, "range 303" },
+        { WM_COMMAND, MAKEWPARAM(IDM_LAST + 1, 0), 0, "" },
+    };
+    for (const auto& c : cases) {
+        m_wnd.m_log.clear();
+        m_wnd.SendMessage(c.nMessage, c.wParam, c.lParam);
+        EXPECT_EQ(c.pszLog, m_wnd.m_log.empty() ? "" : m_wnd.m_log.back()) << c.pszLog;
+    }
+    EXPECT_EQ(12034, m_wnd.SendMessage(WM_TEST_CUSTOM, 12, 34));
+    EXPECT_EQ(-2995, m_wnd.SendMessage(WM_TEST_CUSTOM, 0, -2995));
 
-TEST_F(WndMessages, TimerFromTheSystemAndSent)
-{
-    ASSERT_NE(0u, m_wnd.SetTimer(7, 10));
-    EXPECT_TRUE(PumpUntil([this] { return m_wnd.m_nTimers > 0; }));
-    m_wnd.KillTimer(7);
-    EXPECT_EQ(7u, m_wnd.m_nLastTimer);
-    int nTimers = m_wnd.m_nTimers;
-    m_wnd.SendMessage(WM_TIMER, 9, 0);
-    EXPECT_EQ(nTimers + 1, m_wnd.m_nTimers);
-    EXPECT_EQ(9u, m_wnd.m_nLastTimer);
-}
-
-TEST_F(WndMessages, SizeGivesTheClientSize)
-{
-    m_wnd.m_nSizes = 0;
+    // From the system: the client size after a resize.
     m_wnd.SetWindowPos(NULL, 0, 0, 333, 211, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    EXPECT_GE(m_wnd.m_nSizes, 1);
     CRect rc;
     m_wnd.GetClientRect(&rc);
-    EXPECT_EQ((UINT)SIZE_RESTORED, m_wnd.m_nSizeType);
-    EXPECT_EQ(rc.Width(), m_wnd.m_cx);
-    EXPECT_EQ(rc.Height(), m_wnd.m_cy);
-    EXPECT_GT(m_wnd.m_cx, 0);
-
-    // Sizes are unsigned 16-bit values.
-    m_wnd.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(40000, 35000));
-    EXPECT_EQ((UINT)SIZE_MAXIMIZED, m_wnd.m_nSizeType);
-    EXPECT_EQ(40000, m_wnd.m_cx);
-    EXPECT_EQ(35000, m_wnd.m_cy);
+    EXPECT_GE(m_wnd.CountOf(Str("size 0 %d,%d", rc.Width(), rc.Height()).c_str()), 1);
 }
 
-TEST_F(WndMessages, ButtonClickReachesTheParent)
+TEST_F(WndMessages, ButtonClickAndNotifyReachTheParent)
 {
     CButton button;
-    ASSERT_TRUE(button.Create("Go", WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 80, 30), &m_wnd, IDC_TEST_BUTTON));
-    EXPECT_EQ((int)IDC_TEST_BUTTON, button.GetDlgCtrlID());
+    ASSERT_TRUE(button.Create("Go", WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 80, 30), &m_wnd, IDC_BUTTON));
     EXPECT_EQ(&m_wnd, button.GetParent());
     button.SendMessage(BM_CLICK);
-    Pump();
-    EXPECT_EQ(1, m_wnd.m_nButtonClicks);
-    EXPECT_EQ(0, m_wnd.m_nCommands);
+    TestHost::Pump();
+    EXPECT_EQ(1, m_wnd.CountOf("clicked"));
+    EXPECT_EQ(0, m_wnd.CountOf("command"));
+
+    NMHDR nm = { button.m_hWnd, IDC_BUTTON, (UINT)NM_CLICK };
+    EXPECT_EQ(77, m_wnd.SendMessage(WM_NOTIFY, IDC_BUTTON, (LPARAM)&nm));
+    EXPECT_EQ(Str("notify %p 101 %d", button.m_hWnd, NM_CLICK), m_wnd.m_log.back());
+    // Another code or another id finds no handler.
+    NMHDR other = { button.m_hWnd, IDC_BUTTON, (UINT)NM_DBLCLK };
+    EXPECT_EQ(0, m_wnd.SendMessage(WM_NOTIFY, IDC_BUTTON, (LPARAM)&other));
+    NMHDR otherId = { button.m_hWnd, IDC_BUTTON + 50, (UINT)NM_CLICK };
+    EXPECT_EQ(0, m_wnd.SendMessage(WM_NOTIFY, IDC_BUTTON + 50, (LPARAM)&otherId));
+    EXPECT_EQ(1, m_wnd.CountOf("notify"));
 }
 
 TEST_F(WndMessages, EditChangeIsReflectedOrGoesToTheParent)
 {
     CReflectEdit reflect;
-    ASSERT_TRUE(reflect.Create(WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, CRect(5, 40, 150, 60), &m_wnd, IDC_TEST_EDIT));
+    ASSERT_TRUE(
+        reflect.Create(WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, CRect(5, 40, 150, 60), &m_wnd, IDC_REFLECT_EDIT));
     CEdit plain;
     ASSERT_TRUE(plain.Create(WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, CRect(5, 70, 150, 90), &m_wnd, IDC_PLAIN_EDIT));
 
@@ -649,217 +441,78 @@ TEST_F(WndMessages, EditChangeIsReflectedOrGoesToTheParent)
     CString s;
     reflect.GetWindowText(s);
     EXPECT_STREQ("abc", s);   // the edit's own procedure did its work
-    EXPECT_EQ(1, reflect.m_nReflectedChanges);
-    EXPECT_EQ(0, m_wnd.m_nParentEditChanges);
-
     plain.ReplaceSel("xyz");
-    EXPECT_EQ(1, m_wnd.m_nPlainEditChanges);
-    EXPECT_EQ(1, reflect.m_nReflectedChanges);
+    EXPECT_EQ(std::vector<std::string>{ "change" }, reflect.m_log);
+    EXPECT_EQ(std::vector<std::string>{ "plain change" }, m_wnd.m_log);
 
     // A reflected notify answers through the parent's procedure.
-    NMHDR nm = { reflect.m_hWnd, IDC_TEST_EDIT, (UINT)NM_RCLICK };
-    EXPECT_EQ(55, m_wnd.SendMessage(WM_NOTIFY, IDC_TEST_EDIT, (LPARAM)&nm));
-    EXPECT_EQ(1, reflect.m_nReflectedNotifies);
-    EXPECT_EQ(0, m_wnd.m_nNotifies);
-}
-
-TEST_F(WndMessages, NotifyReachesTheParentHandler)
-{
-    CButton button;
-    ASSERT_TRUE(button.Create("N", WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 80, 30), &m_wnd, IDC_TEST_BUTTON));
-    NMHDR nm = { button.m_hWnd, IDC_TEST_BUTTON, (UINT)NM_CLICK };
-    EXPECT_EQ(77, m_wnd.SendMessage(WM_NOTIFY, IDC_TEST_BUTTON, (LPARAM)&nm));
-    EXPECT_EQ(1, m_wnd.m_nNotifies);
-    EXPECT_EQ(button.m_hWnd, m_wnd.m_lastNotify.hwndFrom);
-    EXPECT_EQ((UINT_PTR)IDC_TEST_BUTTON, m_wnd.m_lastNotify.idFrom);
-    EXPECT_EQ((UINT)NM_CLICK, m_wnd.m_lastNotify.code);
-
-    // Another code or another id finds no handler.
-    NMHDR other = { button.m_hWnd, IDC_TEST_BUTTON, (UINT)NM_DBLCLK };
-    EXPECT_EQ(0, m_wnd.SendMessage(WM_NOTIFY, IDC_TEST_BUTTON, (LPARAM)&other));
-    NMHDR otherId = { button.m_hWnd, IDC_TEST_BUTTON + 50, (UINT)NM_CLICK };
-    EXPECT_EQ(0, m_wnd.SendMessage(WM_NOTIFY, IDC_TEST_BUTTON + 50, (LPARAM)&otherId));
-    EXPECT_EQ(1, m_wnd.m_nNotifies);
-}
-
-TEST_F(WndMessages, MenuCommandsAndRanges)
-{
-    m_wnd.SendMessage(WM_COMMAND, MAKEWPARAM(IDM_TEST_COMMAND, 0), 0);
-    EXPECT_EQ(1, m_wnd.m_nCommands);
-    m_wnd.SendMessage(WM_COMMAND, MAKEWPARAM(IDM_TEST_COMMAND, 1), 0);   // accelerator
-    EXPECT_EQ(2, m_wnd.m_nCommands);
-    m_wnd.SendMessage(WM_COMMAND, MAKEWPARAM(IDM_RANGE_FIRST + 3, 0), 0);
-    EXPECT_EQ(IDM_RANGE_FIRST + 3, m_wnd.m_nRangeId);
-    m_wnd.SendMessage(WM_COMMAND, MAKEWPARAM(IDM_RANGE_LAST + 1, 0), 0);
-    EXPECT_EQ(IDM_RANGE_FIRST + 3, m_wnd.m_nRangeId);
-    EXPECT_EQ(2, m_wnd.m_nCommands);
-}
-
-TEST_F(WndMessages, CustomMessageReturnsItsResult)
-{
-    EXPECT_EQ(12034, m_wnd.SendMessage(WM_TEST_CUSTOM, 12, 34));
-    EXPECT_EQ(-2995, m_wnd.SendMessage(WM_TEST_CUSTOM, 0, -2995));
-    EXPECT_EQ(2, m_wnd.m_nCustom);
+    NMHDR nm = { reflect.m_hWnd, IDC_REFLECT_EDIT, (UINT)NM_RCLICK };
+    EXPECT_EQ(55, m_wnd.SendMessage(WM_NOTIFY, IDC_REFLECT_EDIT, (LPARAM)&nm));
+    EXPECT_EQ("rclick", reflect.m_log.back());
+    EXPECT_EQ(1u, m_wnd.m_log.size());
 }
 
 TEST_F(WndMessages, DefaultReachesTheDefaultProcedure)
 {
     const char* pszTitle = "Title \xCB\xCE\xCC\xE5";
     m_wnd.SetWindowText(pszTitle);
-    m_wnd.m_nGetTexts = 0;
     char buf[64] = {};
     EXPECT_EQ((int)strlen(pszTitle), m_wnd.GetWindowText(buf, sizeof(buf)));
     EXPECT_STREQ(pszTitle, buf);
-    EXPECT_GE(m_wnd.m_nGetTexts, 1);
-
-    CString s;
-    m_wnd.GetWindowText(s);
-    EXPECT_STREQ(pszTitle, s);
+    EXPECT_GE(m_wnd.CountOf("gettext"), 1);
     // The length may be an upper bound under a double-byte code page.
     EXPECT_GE(m_wnd.GetWindowTextLength(), (int)strlen(pszTitle));
 }
 
-TEST_F(WndMessages, SetCursorCarriesWindowHitTestAndMessage)
+TEST_F(WndMessages, PaintValidatesThroughPaintDCEvenWhenItThrows)
 {
-    EXPECT_EQ(TRUE, m_wnd.SendMessage(WM_SETCURSOR, (WPARAM)m_wnd.m_hWnd, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
-    EXPECT_EQ(1, m_wnd.m_nSetCursors);
-    EXPECT_EQ(&m_wnd, m_wnd.m_pCursorWnd);
-    EXPECT_EQ((UINT)HTCLIENT, m_wnd.m_nHitTest);
-    EXPECT_EQ((UINT)WM_MOUSEMOVE, m_wnd.m_nMouseMessage);
-    // HTERROR (-2) arrives as the low word, as the class library passes it.
-    m_wnd.SendMessage(WM_SETCURSOR, (WPARAM)m_wnd.m_hWnd, MAKELPARAM(HTERROR, WM_LBUTTONDOWN));
-    EXPECT_EQ(HTERROR, (short)m_wnd.m_nHitTest);
-    EXPECT_EQ((UINT)WM_LBUTTONDOWN, m_wnd.m_nMouseMessage);
+    for (bool bThrow : { false, true }) {
+        m_wnd.m_bThrowInPaint = bThrow;
+        m_wnd.m_log.clear();
+        CRect rcInvalid(10, 20, 50, 60);
+        m_wnd.InvalidateRect(&rcInvalid, FALSE);
+        m_wnd.UpdateWindow();
+        EXPECT_EQ(bThrow ? "paint throws" : "paint 10,20,50,60", m_wnd.m_log.back());
+        // Nothing is left to paint: no endless stream of WM_PAINT.
+        CRect rcUpdate;
+        EXPECT_FALSE(m_wnd.GetUpdateRect(&rcUpdate));
+        m_wnd.UpdateWindow();
+        TestHost::Pump();
+        EXPECT_EQ(1, m_wnd.CountOf("paint"));
+    }
+    m_wnd.m_bThrowInPaint = false;
 }
-
-TEST_F(WndMessages, ContextMenuKeepsNegativeScreenPoints)
-{
-    m_wnd.SendMessage(WM_CONTEXTMENU, (WPARAM)m_wnd.m_hWnd, MAKELPARAM(-20, -300));
-    EXPECT_EQ(1, m_wnd.m_nContextMenus);
-    EXPECT_EQ(&m_wnd, m_wnd.m_pContextWnd);
-    EXPECT_EQ(CPoint(-20, -300), m_wnd.m_ptContext);
-    // From the keyboard: -1, -1.
-    m_wnd.SendMessage(WM_CONTEXTMENU, (WPARAM)m_wnd.m_hWnd, MAKELPARAM(-1, -1));
-    EXPECT_EQ(CPoint(-1, -1), m_wnd.m_ptContext);
-    m_wnd.SendMessage(WM_CONTEXTMENU, (WPARAM)m_wnd.m_hWnd, MAKELPARAM(1500, 20));
-    EXPECT_EQ(CPoint(1500, 20), m_wnd.m_ptContext);
-}
-
-TEST_F(WndMessages, PaintHandlerValidatesThroughPaintDC)
-{
-    Pump();
-    m_wnd.m_nPaints = 0;
-    CRect rcInvalid(10, 20, 50, 60);
-    m_wnd.InvalidateRect(&rcInvalid, FALSE);
-    m_wnd.UpdateWindow();
-    EXPECT_EQ(1, m_wnd.m_nPaints);
-    EXPECT_EQ(rcInvalid, m_wnd.m_rcPaint);
-    CRect rcUpdate;
-    EXPECT_FALSE(m_wnd.GetUpdateRect(&rcUpdate));
-    // Nothing is left to paint.
-    m_wnd.UpdateWindow();
-    Pump();
-    EXPECT_EQ(1, m_wnd.m_nPaints);
-}
-
-// ---------------------------------------------------------------------------
-// Exceptions stay inside the window procedure
-// ---------------------------------------------------------------------------
 
 TEST_F(WndMessages, ExceptionsInHandlersDoNotEscape)
 {
-    int nDeleted = CTestException::s_nDeleted;
+    const int nDeleted = CTestException::s_nDeleted;
     EXPECT_EQ(0, m_wnd.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(1, 1)));
     EXPECT_EQ(nDeleted + 1, CTestException::s_nDeleted);   // caught and deleted
     EXPECT_EQ(0, m_wnd.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(1, 1)));
     EXPECT_EQ(0, m_wnd.SendMessage(WM_RBUTTONDBLCLK, 0, MAKELPARAM(1, 1)));
-
     // The window goes on working, and Default() sees the right message.
     m_wnd.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(3, 4));
-    EXPECT_EQ(CPoint(3, 4), m_wnd.m_ptLButton);
+    EXPECT_EQ("ldown 0 3,4", m_wnd.m_log.back());
     m_wnd.SetWindowText("still");
     CString s;
     m_wnd.GetWindowText(s);
     EXPECT_STREQ("still", s);
 }
 
-TEST_F(WndMessages, ExceptionInPaintValidatesTheWindow)
-{
-    Pump();
-    m_wnd.m_nPaints = 0;
-    m_wnd.m_bThrowInPaint = true;
-    m_wnd.Invalidate(FALSE);
-    m_wnd.UpdateWindow();
-    EXPECT_EQ(1, m_wnd.m_nPaints);
-    // No endless stream of WM_PAINT: the failed paint validated the window.
-    CRect rcUpdate;
-    EXPECT_FALSE(m_wnd.GetUpdateRect(&rcUpdate));
-    Pump();
-    EXPECT_EQ(1, m_wnd.m_nPaints);
-    m_wnd.m_bThrowInPaint = false;
-}
-
 // ---------------------------------------------------------------------------
-// Subclassing a window made elsewhere
-// ---------------------------------------------------------------------------
-
-TEST_F(WndMessages, SubclassAndUnsubclassAnEdit)
-{
-    HWND hEdit = ::CreateWindowExA(0, "EDIT", "", WS_CHILD | WS_VISIBLE | WS_BORDER, 5, 100, 150, 20,
-                                   m_wnd.m_hWnd, (HMENU)(UINT_PTR)IDC_FOREIGN_EDIT, NULL, NULL);
-    ASSERT_NE(nullptr, hEdit);
-    LONG_PTR pfnOriginal = ::GetWindowLongPtrA(hEdit, GWLP_WNDPROC);
-
-    CCountingEdit edit;
-    ASSERT_TRUE(edit.SubclassWindow(hEdit));
-    EXPECT_EQ(hEdit, edit.m_hWnd);
-    EXPECT_EQ(&edit, CWnd::FromHandlePermanent(hEdit));
-    EXPECT_EQ((LONG_PTR)&AfxWndProc, ::GetWindowLongPtrA(hEdit, GWLP_WNDPROC));
-
-    ::SendMessageA(hEdit, WM_CHAR, 'q', 1);
-    EXPECT_EQ(1, edit.m_nChars);
-    EXPECT_EQ((UINT)'q', edit.m_nLastChar);
-    EXPECT_EQ(1u, edit.m_nLastRepeat);
-    char buf[16] = {};
-    ::GetWindowTextA(hEdit, buf, sizeof(buf));
-    EXPECT_STREQ("q", buf);   // the edit's own procedure still runs
-
-    EXPECT_EQ(hEdit, edit.UnsubclassWindow());
-    EXPECT_EQ(nullptr, edit.m_hWnd);
-    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hEdit));
-    EXPECT_EQ(pfnOriginal, ::GetWindowLongPtrA(hEdit, GWLP_WNDPROC));
-    ::SendMessageA(hEdit, WM_CHAR, 'r', 1);
-    EXPECT_EQ(1, edit.m_nChars);
-    ::GetWindowTextA(hEdit, buf, sizeof(buf));
-    EXPECT_STREQ("qr", buf);
-
-    // Subclassed again through the parent, then destroyed with it bound.
-    ASSERT_TRUE(edit.SubclassDlgItem(IDC_FOREIGN_EDIT, &m_wnd));
-    EXPECT_EQ(hEdit, edit.m_hWnd);
-    ::DestroyWindow(hEdit);
-    EXPECT_EQ(nullptr, edit.m_hWnd);
-}
-
-// ---------------------------------------------------------------------------
-// Owner-drawn list box
+// Owner-drawn list box: the parent reflects its drawing messages
 // ---------------------------------------------------------------------------
 
 TEST(WndOwnerDraw, ListBoxDrawsMeasuresAndDeletesItsItems)
 {
     CWnd parent;
-    ASSERT_TRUE(parent.CreateEx(0, TestWndClass(), "owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                20, 20, 300, 240, NULL, NULL));
+    ASSERT_TRUE(CreateTestWnd(parent));
     COwnerList list;
     ASSERT_TRUE(list.Create(WS_VISIBLE | WS_BORDER | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT,
-                            CRect(10, 10, 200, 190), &parent, IDC_OWNER_LIST));
-    // Measured once while it was made, through the parent.
-    EXPECT_GE(list.m_nMeasures, 1);
-    EXPECT_EQ((UINT)ODT_LISTBOX, list.m_nMeasureCtlType);
-    EXPECT_EQ(IDC_OWNER_LIST, list.m_nMeasureCtlID);
-
-    const char* items[] = { "one", "two", "three" };
+                            CRect(10, 10, 200, 190), &parent, IDC_LIST));
+    EXPECT_EQ(Str("measure %u %u", ODT_LISTBOX, IDC_LIST), list.m_log.at(0));   // while it was made
     for (int i = 0; i < 3; i++) {
-        EXPECT_EQ(i, list.AddString(items[i]));
+        EXPECT_EQ(i, list.AddString(i == 2 ? "three" : "item"));
         list.SetItemData(i, 0x100 + i);
     }
     EXPECT_EQ((int)COwnerList::kItemHeight, list.GetItemHeight(0));
@@ -867,20 +520,14 @@ TEST(WndOwnerDraw, ListBoxDrawsMeasuresAndDeletesItsItems)
     list.GetText(2, text);
     EXPECT_STREQ("three", text);
 
-    list.m_drawnItems.clear();
-    list.m_drawnRects.clear();
+    list.m_log.clear();
     list.Invalidate();
     list.UpdateWindow();
-    ASSERT_GE(list.m_drawnItems.size(), 3u);
-    EXPECT_TRUE(list.m_bDrawHwndOk);
-    for (size_t k = 0; k < list.m_drawnItems.size(); k++) {
-        UINT nItem = list.m_drawnItems[k];
-        ASSERT_LT(nItem, 3u);
-        EXPECT_EQ((int)(nItem * COwnerList::kItemHeight), list.m_drawnRects[k].top);
-        EXPECT_EQ((int)COwnerList::kItemHeight, list.m_drawnRects[k].Height());
-    }
-
-    // The drawing is on the screen: the middle of item 1 is the item colour.
+    const std::vector<std::string> draws = { "draw 0 1 0 19", "draw 1 1 19 19", "draw 2 1 38 19" };
+    for (const std::string& str : draws)
+        EXPECT_NE(list.m_log.end(), std::find(list.m_log.begin(), list.m_log.end(), str)) << str;
+    for (const std::string& str : list.m_log)
+        EXPECT_NE(draws.end(), std::find(draws.begin(), draws.end(), str)) << str;
     {
         CClientDC dc(&list);
         CRect rcItem;
@@ -888,19 +535,14 @@ TEST(WndOwnerDraw, ListBoxDrawsMeasuresAndDeletesItsItems)
         EXPECT_EQ(RGB(0, 0, 255), dc.GetPixel(rcItem.left + 5, rcItem.top + 5));
     }
 
+    list.m_log.clear();
     EXPECT_EQ(2, list.DeleteString(1));
-    ASSERT_EQ(1u, list.m_deletedItems.size());
-    EXPECT_EQ(1u, list.m_deletedItems[0]);
-    EXPECT_EQ((ULONG_PTR)0x101, list.m_deletedData[0]);
-    EXPECT_TRUE(list.m_bDeleteHwndOk);
-
+    EXPECT_EQ(std::vector<std::string>{ "delete 1 1 0x101" }, list.m_log);
     // Destroying the parent frees the remaining items through the list.
     parent.DestroyWindow();
     EXPECT_EQ(nullptr, list.m_hWnd);
-    ASSERT_EQ(3u, list.m_deletedItems.size());
-    std::vector<ULONG_PTR> rest(list.m_deletedData.begin() + 1, list.m_deletedData.end());
+    ASSERT_EQ(3u, list.m_log.size());
+    std::vector<std::string> rest = { list.m_log[1].substr(9), list.m_log[2].substr(9) };   // past "delete n "
     std::sort(rest.begin(), rest.end());
-    EXPECT_EQ((ULONG_PTR)0x100, rest[0]);
-    EXPECT_EQ((ULONG_PTR)0x102, rest[1]);
-    EXPECT_TRUE(list.m_bDeleteHwndOk);
+    EXPECT_EQ((std::vector<std::string>{ "1 0x100", "1 0x102" }), rest);
 }

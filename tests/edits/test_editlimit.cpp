@@ -1,10 +1,47 @@
 // The inline limit editor: its text rules, the order bits, Return, Escape
 // and loss of focus, the growth of the box, and its life.
-#include "EditsTestUtil.h"
+#include "TestUtil.h"
 #include "sheet/EditLimit.h"
 #include "resources/resource.h"
 
 namespace {
+
+class CountingSink : public CGraphNotify
+{
+public:
+    virtual void OnGraphMouse(UINT, UINT, UINT, CPoint) {}
+    virtual void OnGraphEvent(UINT, int nCode) { m_nLimits += nCode == GN_LIMITS; }
+    virtual void OnGraphPage(UINT, UINT) {}
+    virtual void OnGraphCommand(UINT, UINT, long) {}
+    virtual void OnGraphContextMenu(UINT, CPoint) {}
+    int m_nLimits = 0;
+};
+
+// A shown graph window in a host, with a sink for GN_LIMITS and the limits
+// X 0..10, left Y 0..20, right Y 0..30 (the right axis shown).
+class WindowGraph : public GraphInHost
+{
+public:
+    explicit WindowGraph(DWORD dwStyle = 0) : GraphInHost(dwStyle)
+    {
+        m_graph.EnableNotifications(&m_sink, GN_LIMITS);
+        Show();
+        m_graph.SetYAxisLabel(1, "R");
+        m_graph.SetXAxisLimits(0.0, 10.0);
+        m_graph.SetYAxisLimits(0.0, 20.0, 0);
+        m_graph.SetYAxisLimits(0.0, 30.0, 1);
+    }
+    // The limits of the three axes, as "x min max | yl min max | yr min max".
+    std::string Limits()
+    {
+        double d[6];
+        m_graph.GetXAxisLimits(&d[0], &d[1]);
+        m_graph.GetYAxisLimits(&d[2], &d[3], 0);
+        m_graph.GetYAxisLimits(&d[4], &d[5], 1);
+        return Str("x %g %g | yl %g %g | yr %g %g", d[0], d[1], d[2], d[3], d[4], d[5]);
+    }
+    CountingSink m_sink;
+};
 
 // Counts the editors that went, whichever way.
 int g_nEditorsDeleted = 0;
@@ -16,10 +53,12 @@ public:
     virtual ~CountedEditLimit() { g_nEditorsDeleted++; }
 };
 
+const CRect rectBox(100, 250, 150, 270);
+
 // Opens an editor the way a click on a limit does: a child of the graph
 // with the style of the limit boxes, the graph's font, the focus, the text
 // selected, at most 10 characters typed.
-HWND OpenEditor(WindowGraph& g, UINT nID, const CRect& rect, const char* pszText)
+HWND OpenEditor(WindowGraph& g, UINT nID, const char* pszText = "", const CRect& rect = rectBox)
 {
     CEditLimit* pEdit = new CountedEditLimit(g.Prv());
     if (!pEdit->Create(0x50800081, rect, g.Prv(), nID)) {
@@ -35,7 +74,15 @@ HWND OpenEditor(WindowGraph& g, UINT nID, const CRect& rect, const char* pszText
     return pEdit->m_hWnd;
 }
 
-// The window rectangle of a child in the graph's client coordinates.
+// Puts a text into an open editor and closes it by moving the focus to the
+// graph; the limits are then those the editor left.
+void ApplyText(WindowGraph& g, HWND hEdit, const std::string& str)
+{
+    ::SetWindowTextA(hEdit, str.c_str());
+    g.Prv()->SetFocus();
+    TestHost::Pump();
+}
+
 CRect ChildRect(WindowGraph& g, HWND hWnd)
 {
     CRect rect;
@@ -44,48 +91,15 @@ CRect ChildRect(WindowGraph& g, HWND hWnd)
     return rect;
 }
 
-struct Limits
-{
-    double dMin, dMax;
-};
-
-Limits XLimits(WindowGraph& g)
-{
-    Limits l;
-    g.m_graph.m_pGraphPrv->GetXAxisLimits(&l.dMin, &l.dMax);
-    return l;
-}
-
-Limits YLimits(WindowGraph& g, int nAxis)
-{
-    Limits l;
-    g.m_graph.m_pGraphPrv->GetYAxisLimits(&l.dMin, &l.dMax, nAxis);
-    return l;
-}
-
-// Puts a text into an open editor and closes it by moving the focus to the
-// graph; the limits are then those the editor left.
-void ApplyText(WindowGraph& g, HWND hEdit, const char* pszText)
-{
-    ::SetWindowTextA(hEdit, pszText);
-    g.Prv()->SetFocus();
-    TestHost::Pump();
-}
-
-const CRect rectBox(100, 250, 150, 270);
-
 } // namespace
 
-TEST(EditLimit, ReturnTakesTheTypedNumberAndNotifiesOnce)
+TEST(EditLimit, ReturnTakesTheNumberEscapeLeavesTheLimit)
 {
     WindowGraph g;
     ASSERT_NE(0, g.m_nCreated);
-    g.Prv()->SetXAxisLimits(0.0, 5000.0);
     g_nEditorsDeleted = 0;
-    HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, "0");
-    ASSERT_TRUE(hEdit != NULL);
+    HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, "0");
     ASSERT_EQ(hEdit, ::GetFocus());
-    EXPECT_EQ("0", TextOf(hEdit));
     Type(hEdit, "1e3");   // replaces the selected text
     EXPECT_EQ("1e3", TextOf(hEdit));
     EXPECT_EQ(0, g.m_sink.m_nLimits);
@@ -94,183 +108,115 @@ TEST(EditLimit, ReturnTakesTheTypedNumberAndNotifiesOnce)
     EXPECT_FALSE(::IsWindow(hEdit));
     EXPECT_EQ(1, g_nEditorsDeleted);
     EXPECT_EQ(g.Prv()->m_hWnd, ::GetFocus());
-    EXPECT_EQ(1000.0, XLimits(g).dMin);
-    EXPECT_EQ(5000.0, XLimits(g).dMax);
-    EXPECT_EQ(1, g.m_sink.m_nLimits);
-}
-
-TEST(EditLimit, KeysThroughTheMessageQueue)
-{
-    // Return and Escape pressed as keys: the queue turns them into characters.
-    WindowGraph g;
-    g.Prv()->SetXAxisLimits(0.0, 10.0);
-    HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, rectBox, "10");
-    Type(hEdit, "42");
-    ::PostMessageA(hEdit, WM_KEYDOWN, VK_RETURN, 0x001C0001);
-    TestHost::Pump();
-    EXPECT_FALSE(::IsWindow(hEdit));
-    EXPECT_EQ(42.0, XLimits(g).dMax);
+    EXPECT_EQ("x 1000 10 | yl 0 20 | yr 0 30", g.Limits());
     EXPECT_EQ(1, g.m_sink.m_nLimits);
 
-    hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, rectBox, "42");
-    Type(hEdit, "7");
-    ::PostMessageA(hEdit, WM_KEYDOWN, VK_ESCAPE, 0x00010001);
-    TestHost::Pump();
-    EXPECT_FALSE(::IsWindow(hEdit));
-    EXPECT_EQ(42.0, XLimits(g).dMax);
-    EXPECT_EQ(1, g.m_sink.m_nLimits);
-}
-
-TEST(EditLimit, EscapeLeavesTheLimitAndSendsNothing)
-{
-    WindowGraph g;
-    g.Prv()->SetYAxisLimits(-1.0, 1.0, 0);
-    g_nEditorsDeleted = 0;
-    HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_YLEFT_MAX, rectBox, "1");
+    // Escape: the editor goes, the limit stays, nothing is sent.
+    hEdit = OpenEditor(g, IDC_LIMIT_EDIT_YLEFT_MAX, "20");
     Type(hEdit, "99");
     ::SendMessageA(hEdit, WM_CHAR, VK_ESCAPE, 1);
     TestHost::Pump();
     EXPECT_FALSE(::IsWindow(hEdit));
-    EXPECT_EQ(1, g_nEditorsDeleted);
-    EXPECT_EQ(1.0, YLimits(g, 0).dMax);
-    EXPECT_EQ(0, g.m_sink.m_nLimits);
+    EXPECT_EQ(2, g_nEditorsDeleted);
+    EXPECT_EQ("x 1000 10 | yl 0 20 | yr 0 30", g.Limits());
+    EXPECT_EQ(1, g.m_sink.m_nLimits);
+
+    // The same keys pressed, through the message queue.
+    hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, "10");
+    Type(hEdit, "42");
+    ::PostMessageA(hEdit, WM_KEYDOWN, VK_RETURN, 0x001C0001);
+    TestHost::Pump();
+    EXPECT_FALSE(::IsWindow(hEdit));
+    hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, "42");
+    Type(hEdit, "7");
+    ::PostMessageA(hEdit, WM_KEYDOWN, VK_ESCAPE, 0x00010001);
+    TestHost::Pump();
+    EXPECT_FALSE(::IsWindow(hEdit));
+    EXPECT_EQ("x 1000 42 | yl 0 20 | yr 0 30", g.Limits());
+    EXPECT_EQ(2, g.m_sink.m_nLimits);
 }
 
 TEST(EditLimit, TextRules)
 {
     WindowGraph g;
-    struct Case
+    // The line is read into 128 bytes: a text that fills them is no number,
+    // however it goes on.
+    const struct
     {
-        const char* pszText;
+        std::string str;
         bool bTaken;
         double dValue;
-    };
-    const Case aCases[] = {
+    } cases[] = {
         { "1e3", true, 1000.0 },
-        { "12 ", true, 12.0 },            // blanks after the number
+        { "12 ", true, 12.0 },   // blanks after the number
         { "  -2.5   ", true, -2.5 },
-        { "12 x", false, 0.0 },           // anything else after them
-        { "12x", false, 0.0 },
-        { "", false, 0.0 },               // empty
-        { "   ", false, 0.0 },            // blanks only: no number at all
-        { "abc", false, 0.0 },
-        { "1e39", false, 0.0 },           // above the largest float
+        { "12 x", false, 0 },   // anything else after them
+        { "12x", false, 0 },
+        { "", false, 0 },
+        { "   ", false, 0 },   // blanks only: no number at all
+        { "abc", false, 0 },
+        { "1e39", false, 0 },   // above the largest float
         { "3.4028234663852886e38", true, 3.4028234663852886e38 },
+        { "5" + std::string(126, ' '), true, 5.0 },
+        { "5" + std::string(127, ' '), false, 0 },
+        { "5" + std::string(299, ' '), false, 0 },
+        { std::string(128, '1'), false, 0 },
     };
-    for (const Case& c : aCases) {
-        g.Prv()->SetXAxisLimits(-7.0, 77.0);
+    for (const auto& c : cases) {
+        g.m_graph.SetXAxisLimits(-7.0, 77.0);
         const int nNotified = g.m_sink.m_nLimits;
-        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, rectBox, "77");
-        ApplyText(g, hEdit, c.pszText);
-        EXPECT_FALSE(::IsWindow(hEdit)) << c.pszText;
-        // The graph is told in every case.
-        EXPECT_EQ(nNotified + 1, g.m_sink.m_nLimits) << c.pszText;
-        EXPECT_EQ(c.bTaken ? c.dValue : 77.0, XLimits(g).dMax) << "'" << c.pszText << "'";
-        EXPECT_EQ(-7.0, XLimits(g).dMin) << c.pszText;
-    }
-}
-
-TEST(EditLimit, LongTextsStayInsideTheLineBuffer)
-{
-    // The line is read into 128 bytes; a text that fills them is taken as
-    // no number, however it goes on.
-    WindowGraph g;
-    const std::string str127 = "5" + std::string(126, ' ');
-    const std::string str128 = "5" + std::string(127, ' ');
-    const std::string str300 = "5" + std::string(299, ' ');
-    const std::string str128Digits(128, '1');
-
-    g.Prv()->SetXAxisLimits(0.0, 10.0);
-    HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, "0");
-    ApplyText(g, hEdit, str127.c_str());
-    EXPECT_EQ(5.0, XLimits(g).dMin);
-
-    const std::string* apsz[3] = { &str128, &str300, &str128Digits };
-    for (const std::string* p : apsz) {
-        g.Prv()->SetXAxisLimits(0.0, 10.0);
-        hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, "0");
-        ApplyText(g, hEdit, p->c_str());
-        EXPECT_FALSE(::IsWindow(hEdit));
-        EXPECT_EQ(0.0, XLimits(g).dMin) << p->size();
+        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, "77");
+        ApplyText(g, hEdit, c.str);
+        EXPECT_FALSE(::IsWindow(hEdit)) << c.str;
+        EXPECT_EQ(nNotified + 1, g.m_sink.m_nLimits) << c.str;   // told in every case
+        double dMin, dMax;
+        g.m_graph.GetXAxisLimits(&dMin, &dMax);
+        EXPECT_EQ(c.bTaken ? c.dValue : 77.0, dMax) << "'" << c.str << "' " << c.str.size();
+        EXPECT_EQ(-7.0, dMin) << c.str;
     }
 }
 
 TEST(EditLimit, EachBoxSetsItsOwnLimit)
 {
     WindowGraph g;
-    CGraphPrv* p = g.Prv();
-    p->SetYAxisLabel(1, "R");
-    p->SetXAxisLimits(0.0, 10.0);
-    p->SetYAxisLimits(0.0, 20.0, 0);
-    p->SetYAxisLimits(0.0, 30.0, 1);
-    struct Box
+    const struct
     {
         UINT nID;
         const char* pszText;
-    };
-    const Box aBoxes[6] = { { IDC_LIMIT_EDIT_X_MIN, "1" }, { IDC_LIMIT_EDIT_X_MAX, "9" },
-                            { IDC_LIMIT_EDIT_YLEFT_MAX, "19" }, { IDC_LIMIT_EDIT_YLEFT_MIN, "2" },
-                            { IDC_LIMIT_EDIT_YRIGHT_MAX, "29" }, { IDC_LIMIT_EDIT_YRIGHT_MIN, "3" } };
-    for (const Box& box : aBoxes) {
-        HWND hEdit = OpenEditor(g, box.nID, rectBox, "");
-        ApplyText(g, hEdit, box.pszText);
-    }
-    EXPECT_EQ(1.0, XLimits(g).dMin);
-    EXPECT_EQ(9.0, XLimits(g).dMax);
-    EXPECT_EQ(19.0, YLimits(g, 0).dMax);
-    EXPECT_EQ(2.0, YLimits(g, 0).dMin);
-    EXPECT_EQ(29.0, YLimits(g, 1).dMax);
-    EXPECT_EQ(3.0, YLimits(g, 1).dMin);
+    } boxes[] = { { IDC_LIMIT_EDIT_X_MIN, "1" },       { IDC_LIMIT_EDIT_X_MAX, "9" },
+                  { IDC_LIMIT_EDIT_YLEFT_MAX, "19" },  { IDC_LIMIT_EDIT_YLEFT_MIN, "2" },
+                  { IDC_LIMIT_EDIT_YRIGHT_MAX, "29" }, { IDC_LIMIT_EDIT_YRIGHT_MIN, "3" } };
+    for (const auto& box : boxes)
+        ApplyText(g, OpenEditor(g, box.nID), box.pszText);
+    EXPECT_EQ("x 1 9 | yl 2 19 | yr 3 29", g.Limits());
     EXPECT_EQ(6, g.m_sink.m_nLimits);
 }
 
 TEST(EditLimit, OrderBitsSwapACrossedPair)
 {
     // Without the bits a new value may cross the other limit: the axis
-    // turns round.
+    // turns round. GS_XLIMITORDER keeps the X minimum below the maximum,
+    // GS_YLIMITORDER does so for both Y axes.
+    const struct
     {
-        WindowGraph g(0x01);
-        g.Prv()->SetXAxisLimits(0.0, 10.0);
-        g.Prv()->SetYAxisLimits(0.0, 10.0, 0);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, ""), "20");
-        EXPECT_EQ(20.0, XLimits(g).dMin);
-        EXPECT_EQ(10.0, XLimits(g).dMax);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_YLEFT_MAX, rectBox, ""), "-5");
-        EXPECT_EQ(0.0, YLimits(g, 0).dMin);
-        EXPECT_EQ(-5.0, YLimits(g, 0).dMax);
-    }
-    // GS_XLIMITORDER keeps the X minimum below the maximum; the Y axes are
-    // not concerned.
-    {
-        WindowGraph g(GS_XLIMITORDER);
-        g.Prv()->SetXAxisLimits(0.0, 10.0);
-        g.Prv()->SetYAxisLimits(0.0, 10.0, 0);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, ""), "20");
-        EXPECT_EQ(10.0, XLimits(g).dMin);
-        EXPECT_EQ(20.0, XLimits(g).dMax);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, rectBox, ""), "-3");
-        EXPECT_EQ(-3.0, XLimits(g).dMin);
-        EXPECT_EQ(10.0, XLimits(g).dMax);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_YLEFT_MIN, rectBox, ""), "15");
-        EXPECT_EQ(15.0, YLimits(g, 0).dMin);
-        EXPECT_EQ(10.0, YLimits(g, 0).dMax);
-    }
-    // GS_YLIMITORDER covers both Y axes.
-    {
-        WindowGraph g(GS_YLIMITORDER);
-        g.Prv()->SetYAxisLabel(1, "R");
-        g.Prv()->SetXAxisLimits(0.0, 10.0);
-        g.Prv()->SetYAxisLimits(0.0, 10.0, 0);
-        g.Prv()->SetYAxisLimits(0.0, 10.0, 1);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_YLEFT_MAX, rectBox, ""), "-5");
-        EXPECT_EQ(-5.0, YLimits(g, 0).dMin);
-        EXPECT_EQ(0.0, YLimits(g, 0).dMax);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_YRIGHT_MIN, rectBox, ""), "12");
-        EXPECT_EQ(10.0, YLimits(g, 1).dMin);
-        EXPECT_EQ(12.0, YLimits(g, 1).dMax);
-        ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, ""), "11");
-        EXPECT_EQ(11.0, XLimits(g).dMin);
-        EXPECT_EQ(10.0, XLimits(g).dMax);
+        DWORD dwStyle;
+        UINT nID;
+        const char* pszText;
+        const char* pszLimits;
+    } cases[] = {
+        { 0x01, IDC_LIMIT_EDIT_X_MIN, "20", "x 20 10 | yl 0 20 | yr 0 30" },
+        { 0x01, IDC_LIMIT_EDIT_YLEFT_MAX, "-5", "x 0 10 | yl 0 -5 | yr 0 30" },
+        { GS_XLIMITORDER, IDC_LIMIT_EDIT_X_MIN, "20", "x 10 20 | yl 0 20 | yr 0 30" },
+        { GS_XLIMITORDER, IDC_LIMIT_EDIT_X_MAX, "-3", "x -3 0 | yl 0 20 | yr 0 30" },
+        { GS_XLIMITORDER, IDC_LIMIT_EDIT_YLEFT_MIN, "25", "x 0 10 | yl 25 20 | yr 0 30" },
+        { GS_YLIMITORDER, IDC_LIMIT_EDIT_YLEFT_MAX, "-5", "x 0 10 | yl -5 0 | yr 0 30" },
+        { GS_YLIMITORDER, IDC_LIMIT_EDIT_YRIGHT_MIN, "32", "x 0 10 | yl 0 20 | yr 30 32" },
+        { GS_YLIMITORDER, IDC_LIMIT_EDIT_X_MIN, "11", "x 11 10 | yl 0 20 | yr 0 30" },
+    };
+    for (const auto& c : cases) {
+        WindowGraph g(c.dwStyle);
+        ApplyText(g, OpenEditor(g, c.nID), c.pszText);
+        EXPECT_EQ(c.pszLimits, g.Limits()) << std::hex << c.dwStyle << " " << c.pszText;
     }
 }
 
@@ -278,63 +224,46 @@ TEST(EditLimit, CommaLocaleTakesOnlyPlainNotation)
 {
     ThreadLocale locale(lcidGerman);
     WindowGraph g;
-    g.Prv()->SetXAxisLimits(0.0, 10.0);
-    ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, rectBox, ""), "1,5");
-    EXPECT_EQ(10.0, XLimits(g).dMax);
-    ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, rectBox, ""), "1.5");
-    EXPECT_EQ(1.5, XLimits(g).dMax);
+    ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MAX), "1,5");
+    EXPECT_EQ("x 0 10 | yl 0 20 | yr 0 30", g.Limits());
+    ApplyText(g, OpenEditor(g, IDC_LIMIT_EDIT_X_MAX), "1.5");
+    EXPECT_EQ("x 0 1.5 | yl 0 20 | yr 0 30", g.Limits());
     EXPECT_EQ(2, g.m_sink.m_nLimits);
 }
 
 TEST(EditLimit, BoxGrowsWithItsTextByItsId)
 {
     WindowGraph g;
-    struct Growth
+    // Both ways from the centre, to the left, or not at all.
+    const struct
     {
         UINT nID;
-        int nMode;   // 0 both ways from the centre, 1 to the left, 2 none
-    };
-    const Growth aGrowth[3] = { { IDC_LIMIT_EDIT_X_MIN, 0 }, { IDC_LIMIT_EDIT_YLEFT_MIN, 1 },
-                                { IDC_LIMIT_EDIT_YRIGHT_MAX, 2 } };
-    for (const Growth& growth : aGrowth) {
-        const CRect rectStart(150, 100, 180, 120);
-        HWND hEdit = OpenEditor(g, growth.nID, rectStart, "");
+        int nMode;
+    } growth[] = { { IDC_LIMIT_EDIT_X_MIN, 0 }, { IDC_LIMIT_EDIT_YLEFT_MIN, 1 }, { IDC_LIMIT_EDIT_YRIGHT_MAX, 2 } };
+    const CRect rectStart(150, 100, 180, 120);
+    for (const auto& c : growth) {
+        HWND hEdit = OpenEditor(g, c.nID, "", rectStart);
         ASSERT_EQ(rectStart, ChildRect(g, hEdit));
         // The average width of the box's own context.
         TEXTMETRICA tm;
         HDC hDC = ::GetDC(hEdit);
         ::GetTextMetricsA(hDC, &tm);
         ::ReleaseDC(hEdit, hDC);
-        ASSERT_GT(tm.tmAveCharWidth, 0);
-
         CRect rectExpected = rectStart;
-        const char* pszKeys = "123456789\b\b\b\b\b\b\b\b";
         int nLength = 0;
-        for (const char* pKey = pszKeys; *pKey != '\0'; ++pKey) {
+        for (const char* pKey = "123456789\b\b\b\b\b\b\b\b"; *pKey != '\0'; ++pKey) {
             ::SendMessageA(hEdit, WM_CHAR, (BYTE)*pKey, 1);
             nLength += *pKey == '\b' ? -1 : 1;
             const int d = rectExpected.Width() - (nLength + 2) * tm.tmAveCharWidth;
             CRect rect = rectExpected;
-            if (growth.nMode == 0) {
-                rect.left += d / 2;
-                rect.right -= d / 2;
-            } else if (growth.nMode == 1) {
-                rect.left += d;
-            }
+            rect.left += c.nMode == 0 ? d / 2 : c.nMode == 1 ? d : 0;
+            rect.right -= c.nMode == 0 ? d / 2 : 0;
             rectExpected = rect.Width() < rectStart.Width() ? rectStart : rect;
-            ASSERT_EQ(rectExpected, ChildRect(g, hEdit)) << growth.nID << " after " << nLength;
+            ASSERT_EQ(rectExpected, ChildRect(g, hEdit)) << c.nID << " after " << nLength;
         }
-        // It grew on the way, and came back to its first rectangle.
-        EXPECT_EQ(rectStart, ChildRect(g, hEdit));
+        EXPECT_EQ(rectStart, ChildRect(g, hEdit));   // it grew, and came back
         ::SendMessageA(hEdit, WM_CHAR, VK_ESCAPE, 1);
     }
-    CRect rectWide(150, 100, 180, 120);
-    HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_YLEFT_MAX, rectWide, "");
-    Type(hEdit, "12345678");
-    CRect rect = ChildRect(g, hEdit);
-    EXPECT_EQ(rectWide.right, rect.right);
-    EXPECT_LT(rect.left, rectWide.left);
-    ::SendMessageA(hEdit, WM_CHAR, VK_ESCAPE, 1);
 }
 
 TEST(EditLimit, EditorGoesWithItsGraph)
@@ -343,22 +272,20 @@ TEST(EditLimit, EditorGoesWithItsGraph)
     {
         // With the focus: it closes as usual when the graph goes.
         WindowGraph g;
-        g.Prv()->SetXAxisLimits(0.0, 10.0);
-        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, "3");
-        ASSERT_TRUE(::IsWindow(hEdit));
+        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, "3");
         g.Prv()->DestroyWindow();
         EXPECT_FALSE(::IsWindow(hEdit));
     }
     EXPECT_EQ(1, g_nEditorsDeleted);
     {
-        // Without the focus: its window goes with the graph's, and the object too.
+        // Losing the focus closes it; without the focus its window and the
+        // object go with the graph's window.
         WindowGraph g;
-        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, rectBox, "3");
+        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, "3");
         ::SetFocus(NULL);
         TestHost::Pump();
-        EXPECT_EQ(2, g_nEditorsDeleted);   // losing the focus closed it
+        EXPECT_EQ(2, g_nEditorsDeleted);
         EXPECT_FALSE(::IsWindow(hEdit));
-
         CEditLimit* pEdit = new CountedEditLimit(g.Prv());
         ASSERT_TRUE(pEdit->Create(0x50800081, rectBox, g.Prv(), IDC_LIMIT_EDIT_X_MAX));
         hEdit = pEdit->m_hWnd;

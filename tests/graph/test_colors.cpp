@@ -1,9 +1,5 @@
-// Colour modes, the rotating and matching tables, custom colours, and the
-// graph's font.
-#include "gtest/gtest.h"
-#include "graph/Graph.h"
-#include "graph/GraphPrv.h"
-#include "series/PlotData.h"
+// Colour modes, the rotating and matching tables, custom colours, the
+// background, and the graph's font.
 #include "TestUtil.h"
 
 namespace {
@@ -17,12 +13,18 @@ void FillEntry(CLineColor& entry, const char* pszName, DWORD crLine, int nStyle,
     entry.m_nLineWidth = nWidth;
 }
 
-float g_afX[2] = { 0, 1 };
-float g_afY[2] = { 0, 1 };
+float g_afXY[2] = { 0, 1 };
 
 int Add(CGraph& graph, const char* pszName, DWORD dwAxis = PLOT_YLEFT)
 {
-    return graph.AddPlotData(pszName, dwAxis, g_afX, g_afY, 2, 0xEEEEEE, 4, 9);
+    return graph.AddPlotData(pszName, dwAxis, g_afXY, g_afXY, 2, 0xEEEEEE, 4, 9);
+}
+
+// The look of a series as "colour style width annotate-colour".
+std::string Look(CGraph& graph, const char* pszName)
+{
+    CPlotData* p = FindSeries(graph, pszName);
+    return p ? Str("%06lx %d %d %06lx", p->m_crLine, p->m_nLineStyle, p->m_nLineWidth, p->m_crAnnotate) : "none";
 }
 
 } // namespace
@@ -38,10 +40,8 @@ TEST(Colors, DefaultRotatingTable)
         wchar_t szName[16];
         swprintf(szName, 16, L"\u7EBF %d", i + 1);   // "线 n" from the library's own strings
         EXPECT_STREQ(AnsiOf(szName), pTable[i].m_strName) << i;
-        EXPECT_EQ(acr[i], pTable[i].m_crLine) << i;
-        EXPECT_EQ(0, pTable[i].m_nLineStyle);
-        EXPECT_EQ(0, pTable[i].m_nAnnotate);
-        EXPECT_EQ(1, pTable[i].m_nLineWidth);
+        EXPECT_EQ(Str("%06lx 0 0 1", acr[i]), Str("%06lx %d %d %d", pTable[i].m_crLine, pTable[i].m_nLineStyle,
+                                                  pTable[i].m_nAnnotate, pTable[i].m_nLineWidth)) << i;
     }
 }
 
@@ -54,7 +54,6 @@ TEST(Colors, ModesAndTheirRefusals)
     CLineColor entry;
     EXPECT_EQ(GRAPH_WRONGCOLORMODE, graph.GetNextRotatingColor(entry));
     EXPECT_EQ(GRAPH_WRONGCOLORMODE, graph.ResetRotatingColors());
-
     CLineColor table[1];
     FillEntry(table[0], "x", 1, 1, 1, 1);
     EXPECT_EQ(GRAPH_BADARG, graph.SetGraphColors(table, 0));
@@ -72,41 +71,32 @@ TEST(Colors, RotatingModeAdvancesOncePerAddedSeries)
     FillEntry(table[2], "r2", 0xCC0000, 3, 4, 5);
     ASSERT_EQ(1, graph.SetGraphColors(table, 3));
     ASSERT_EQ(1, graph.SetGraphColorsMode(GRAPH_COLORS_ROTATING));
-
+    // The entry's look, its line colour for the annotations; the caller's
+    // colour is ignored.
+    const char* apszLooks[3] = { "0000aa 1 3 0000aa", "00bb00 2 4 00bb00", "cc0000 3 5 cc0000" };
     const char* apszNames[] = { "a", "b", "c", "d", "e" };
     for (int i = 0; i < 5; i++) {
         CLineColor next, again;
         ASSERT_EQ(1, graph.GetNextRotatingColor(next));
-        ASSERT_EQ(1, graph.GetNextRotatingColor(again));   // does not advance
-        EXPECT_STREQ(next.m_strName, again.m_strName);
-        EXPECT_STREQ(table[i % 3].m_strName, next.m_strName);
-
+        ASSERT_EQ(1, graph.GetNextRotatingColor(again));   // asking does not advance
+        EXPECT_STREQ(table[i % 3].m_strName, again.m_strName);
         ASSERT_EQ(1, Add(graph, apszNames[i]));
-        CPlotData* pData = FindSeries(graph, apszNames[i]);
-        EXPECT_EQ(next.m_crLine, pData->m_crLine);   // the caller's colour is ignored
-        EXPECT_EQ(table[i % 3].m_nLineWidth, pData->m_nLineWidth);
-        EXPECT_EQ(table[i % 3].m_nLineStyle, pData->m_nLineStyle);
-        EXPECT_EQ(table[i % 3].m_crLine, pData->m_crAnnotate);
+        EXPECT_EQ(apszLooks[i % 3], Look(graph, apszNames[i]));
         EXPECT_EQ((i + 1) % 3, graph.m_pGraphPrv->m_nNextRotatingColor);
-
         // A failed add moves nothing: not at the flags, not at the name.
         EXPECT_EQ(GRAPH_BADARG, Add(graph, "refused", 0));
         EXPECT_EQ(GRAPH_SERIESEXISTS, Add(graph, apszNames[i]));
         EXPECT_EQ((i + 1) % 3, graph.m_pGraphPrv->m_nNextRotatingColor);
     }
-
     EXPECT_EQ(1, graph.ResetRotatingColors());
     EXPECT_EQ(0, graph.m_pGraphPrv->m_nNextRotatingColor);
-
     // Held rotation: every new series takes the same entry.
     graph.SetStopIncrementColor(1);
     EXPECT_EQ(1, graph.GetStopIncrementColor());
     ASSERT_EQ(1, Add(graph, "held1"));
     ASSERT_EQ(1, Add(graph, "held2"));
-    EXPECT_EQ(table[0].m_crLine, FindSeries(graph, "held1")->m_crLine);
-    EXPECT_EQ(table[0].m_crLine, FindSeries(graph, "held2")->m_crLine);
-    graph.SetStopIncrementColor(0);
-    EXPECT_EQ(0, graph.GetStopIncrementColor());
+    EXPECT_EQ(apszLooks[0], Look(graph, "held1"));
+    EXPECT_EQ(apszLooks[0], Look(graph, "held2"));
 }
 
 TEST(Colors, MatchingModeLooksUpTheSeriesName)
@@ -117,30 +107,26 @@ TEST(Colors, MatchingModeLooksUpTheSeriesName)
     FillEntry(table[1], "Flow", 0x00BB00, 2, 3, 4);
     FillEntry(table[2], "pressure", 0xCC0000, 3, 4, 5);
     ASSERT_EQ(1, graph.SetGraphColors(table, 3));
-
-    // Works in every mode; the first of two entries of one name wins.
+    // Works in every mode; the first of two entries of one name wins;
+    // neither name nor width is copied; case counts.
     CLineColor found;
     found.m_strName = "untouched";
     found.m_nLineWidth = 77;
     EXPECT_EQ(1, graph.GetMatchingColor("pressure", found));
-    EXPECT_EQ(0x0000AAu, found.m_crLine);
-    EXPECT_EQ(1, found.m_nLineStyle);
-    EXPECT_EQ(2, found.m_nAnnotate);
-    EXPECT_STREQ("untouched", found.m_strName);   // neither name nor width is copied
-    EXPECT_EQ(77, found.m_nLineWidth);
-    EXPECT_EQ(GRAPH_NOCOLOR, graph.GetMatchingColor("flow", found));   // case counts
+    EXPECT_EQ(Str("0000aa 1 2 77 untouched"), Str("%06lx %d %d %d %s", found.m_crLine, found.m_nLineStyle,
+                                                  found.m_nAnnotate, found.m_nLineWidth, (LPCSTR)found.m_strName));
+    EXPECT_EQ(GRAPH_NOCOLOR, graph.GetMatchingColor("flow", found));
 
     ASSERT_EQ(1, graph.SetGraphColorsMode(GRAPH_COLORS_MATCHING));
     EXPECT_EQ(1, Add(graph, "Flow"));
-    EXPECT_EQ(0x00BB00u, FindSeries(graph, "Flow")->m_crLine);
-    EXPECT_EQ(4, FindSeries(graph, "Flow")->m_nLineWidth);
+    EXPECT_EQ("00bb00 2 4 00bb00", Look(graph, "Flow"));
     EXPECT_EQ(GRAPH_NOCOLOR, Add(graph, "unknown"));
-    EXPECT_TRUE(FindSeries(graph, "unknown") == NULL);
+    EXPECT_EQ("none", Look(graph, "unknown"));
 }
 
-TEST(Colors, CustomColorsAndBackground)
+TEST(Colors, CustomColorsBackgroundAndFont)
 {
-    CGraph graph;
+    CGraph graph, other;
     DWORD adwOut[16] = { 0 };
     EXPECT_EQ(GRAPH_NOCUSTOMCOLORS, graph.GetCustomColors(adwOut));
     DWORD adwHost[16];
@@ -149,21 +135,15 @@ TEST(Colors, CustomColorsAndBackground)
     EXPECT_EQ(1, graph.SetCustomColors(adwHost));
     EXPECT_EQ(1, graph.GetCustomColors(adwOut));
     EXPECT_EQ(0u, adwOut[5]);   // the argument is not written
-    // Process-wide: another graph sees the host's array too.
-    CGraph other;
-    EXPECT_EQ(1, other.GetCustomColors(adwOut));
+    EXPECT_EQ(1, other.GetCustomColors(adwOut));   // process-wide
     EXPECT_EQ(1, graph.ReleaseCustomColors());
     EXPECT_EQ(GRAPH_NOCUSTOMCOLORS, other.GetCustomColors(adwOut));
-
     DWORD crBack = 0;
     EXPECT_EQ(1, graph.SetBackgroundColor(0x102030));
     EXPECT_EQ(1, graph.GetBackgroundColor(crBack));
     EXPECT_EQ(0x102030u, crBack);
-}
 
-TEST(Colors, FontRoundTrip)
-{
-    CGraph graph;
+    // The font: tenths of a point from now on, made at 12 points for the screen.
     LOGFONT lf;
     memset(&lf, 0, sizeof(lf));
     lf.lfWeight = FW_BOLD;
@@ -171,21 +151,14 @@ TEST(Colors, FontRoundTrip)
     lf.lfCharSet = DEFAULT_CHARSET;
     lstrcpyA(lf.lfFaceName, "Arial");
     EXPECT_EQ(1, graph.SetLogFont(&lf, 120, 0x0000FF));
-
     LOGFONT out;
     int nSize = 0;
     DWORD crText = 0;
     EXPECT_EQ(1, graph.GetLogFont(&out, &nSize, &crText));
-    EXPECT_EQ(120, nSize);
-    EXPECT_EQ(0x0000FFu, crText);
-    EXPECT_EQ(120, out.lfHeight);   // tenths of a point from now on
-    EXPECT_STREQ("Arial", out.lfFaceName);
-    EXPECT_EQ(FW_BOLD, out.lfWeight);
+    EXPECT_EQ(Str("120 0000ff 120 Arial 700"),
+              Str("%d %06lx %ld %s %ld", nSize, crText, out.lfHeight, out.lfFaceName, out.lfWeight));
     EXPECT_STREQ("Arial", graph.m_pGraphPrv->m_strFaceName);
-    EXPECT_EQ(FW_BOLD, graph.m_pGraphPrv->m_lFontWeight);
     EXPECT_EQ(1, graph.m_pGraphPrv->m_bFontItalic);
-
-    // The font object is made at 12 points for the screen.
     LOGFONT made;
     graph.m_pGraphPrv->m_font.GetLogFont(&made);
     CClientDC dc(NULL);

@@ -1,9 +1,6 @@
-// The graph frame: defaults of a new graph, creation with and without a
-// window, texts, number formats, rectangles and the status values.
-#include "gtest/gtest.h"
-#include "graph/Graph.h"
-#include "graph/GraphPrv.h"
-#include "TestHost.h"
+// The graph frame: status values, defaults of a new graph, creation with and
+// without a window, texts, the right axis, and the resolutions of number
+// formats.
 #include "TestUtil.h"
 
 TEST(GraphFrame, StatusValuesAndNotFoundZeros)
@@ -41,44 +38,28 @@ TEST(GraphFrame, DefaultsOfAConstructedGraph)
     CGraph graph;
     CGraphPrv* p = graph.m_pGraphPrv;
     ASSERT_TRUE(p != NULL);
-    EXPECT_EQ(0x100u, p->m_dwState);
-    EXPECT_EQ(0x71u, p->m_dwStyle);
-    EXPECT_EQ(0.0, p->m_dXMin);
-    EXPECT_EQ(1.0, p->m_dXMax);
-    EXPECT_EQ(0.0, p->m_dYMin[1]);
-    EXPECT_EQ(1.0, p->m_dYMax[1]);
-    EXPECT_EQ(0.0, p->m_dRadarXPercent);
-    EXPECT_EQ(10.0, p->m_dRadarYPercent);
-    EXPECT_EQ(7, p->m_wRadarType);
-    EXPECT_EQ(63, p->m_lMenuConfig);
-    EXPECT_EQ(15, p->m_lPropPageConfig);
-    EXPECT_EQ(2001, p->m_wNextLabelId);
-    EXPECT_EQ(0xFFFFFFu, p->m_crBackground);
-    EXPECT_EQ(1u, p->m_dwGridType);
-    EXPECT_EQ(1, p->m_nGraphColorsMode);
-    EXPECT_EQ(16, p->m_nGraphColors);
-    EXPECT_EQ(1, p->m_nXTicType);
-    EXPECT_EQ(0, p->m_nXTicCount);
-    EXPECT_EQ(0.0f, p->m_fXResolution);
-    EXPECT_TRUE(p->m_bZoomEnabled);
-    EXPECT_TRUE(p->m_bMenuEnabled);
-    EXPECT_FALSE(p->m_bRightAxisDisplayed);
-    EXPECT_TRUE(p->m_pNotify == NULL);
-    EXPECT_TRUE(p->m_pMarkerLine == NULL);
+    EXPECT_TRUE(p->IsKindOf(RUNTIME_CLASS(CWnd)));
+    // State, style, limits, radar margins and type, menu and page
+    // configuration, next label id, background, grid, colour mode and table,
+    // tic type, resolution.
+    EXPECT_EQ("100 71 | 0 1 0 1 | 0 10 7 | 63 15 2001 | ffffff 1 1 16 1 0",
+              Str("%lx %lx | %g %g %g %g | %g %g %d | %ld %ld %d | %06lx %lu %d %d %d %g", p->m_dwState, p->m_dwStyle,
+                  p->m_dXMin, p->m_dXMax, p->m_dYMin[1], p->m_dYMax[1], p->m_dRadarXPercent, p->m_dRadarYPercent,
+                  (int)p->m_wRadarType, (long)p->m_lMenuConfig, (long)p->m_lPropPageConfig, (int)p->m_wNextLabelId,
+                  p->m_crBackground, p->m_dwGridType, p->m_nGraphColorsMode, p->m_nGraphColors, p->m_nXTicType,
+                  (double)p->m_fXResolution));
+    EXPECT_TRUE(p->m_bZoomEnabled && p->m_bMenuEnabled && !p->m_bRightAxisDisplayed);
+    EXPECT_TRUE(p->m_pNotify == NULL && p->m_pMarkerLine == NULL);
     EXPECT_STREQ("%.3E", p->m_strMaxLenFormat);
     EXPECT_TRUE(p->m_hPlotCursor != NULL);
     EXPECT_TRUE(p->m_rectPlot.IsRectNull());
-
     // Tic tables in elevenths of the span until the first layout.
+    EXPECT_EQ(0, p->m_nXTicCount);
     for (int i = 0; i <= 10; i++) {
         EXPECT_DOUBLE_EQ(0.09090909090909091 * i, p->m_dXTicValue[i]);
         EXPECT_DOUBLE_EQ(0.09090909090909091 * i, p->m_dYTicValue[1][i]);
-        EXPECT_EQ(0, p->m_nXTicPixel[i]);
     }
-
     // The font: 宋体 at 8 points, its LOGFONT read back from the font.
-    EXPECT_STREQ(AnsiOf(L"\u5B8B\u4F53"), p->m_strFaceName);
-    EXPECT_EQ(80, p->m_nPointSize);
     LOGFONT lf;
     int nSize = 0;
     DWORD crText = 1;
@@ -86,76 +67,68 @@ TEST(GraphFrame, DefaultsOfAConstructedGraph)
     EXPECT_EQ(80, nSize);
     EXPECT_EQ(0u, crText);
     EXPECT_STREQ(AnsiOf(L"\u5B8B\u4F53"), lf.lfFaceName);
+    EXPECT_STREQ(AnsiOf(L"\u5B8B\u4F53"), p->m_strFaceName);
     CClientDC dc(NULL);
     EXPECT_EQ(-(dc.GetDeviceCaps(LOGPIXELSY) * 80 / 720), lf.lfHeight);
     EXPECT_EQ(lf.lfWeight, p->m_lFontWeight);
+
+    // The graph is made by its run-time class, with its private part.
+    CObject* pObject = RUNTIME_CLASS(CGraph)->CreateObject();
+    ASSERT_TRUE(pObject != NULL);
+    EXPECT_TRUE(((CGraph*)pObject)->m_pGraphPrv != NULL);
+    delete pObject;
+    EXPECT_EQ(RUNTIME_CLASS(CGraphPrv), CRuntimeClass::FromName("CGraphPrv"));
 }
 
 TEST(GraphFrame, CreateWithoutWindowReturnsTheStyleWord)
 {
     TestHost host;
-    CGraph graph;
+    CGraph graph, other;
     CRect rect(10, 20, 410, 320);
     EXPECT_EQ(GS_NOWINDOW, graph.CreateGraph(host.Wnd(), NULL, rect, GS_NOWINDOW, 100, 63));
-    CGraphPrv* p = graph.m_pGraphPrv;
-    EXPECT_TRUE(p->m_hWnd == NULL);
-    EXPECT_TRUE(p->m_legend.m_hWnd == NULL);
-    EXPECT_EQ(rect, p->m_rectGraph);   // no window: the position stays
-    // The first layout worked out tic tables for the default limits.
-    EXPECT_GT(p->m_nXTicCount, 0);
-    EXPECT_GT(p->m_nYTicCount[1], 0);
-    EXPECT_LT(p->m_rectGraph.left, p->m_rectPlot.left);
-    EXPECT_LT(p->m_rectPlot.right, p->m_rectGraph.right);
-    EXPECT_EQ(p->m_rectPlot.left + 1, p->m_rectScroll.left);
-    EXPECT_EQ(p->m_rectPlot.top + 1, p->m_rectScroll.top);
-    EXPECT_EQ(p->m_rectPlot.right, p->m_rectScroll.right);
-
+    EXPECT_TRUE(graph.m_pGraphPrv->m_hWnd == NULL);
+    EXPECT_TRUE(graph.m_pGraphPrv->m_legend.m_hWnd == NULL);
     // Higher style bits pass through unchanged.
-    CGraph other;
     EXPECT_EQ((int)(GS_NOWINDOW | 0x1000), other.CreateGraph(host.Wnd(), NULL, rect, GS_NOWINDOW | 0x1000, 1, 7));
     EXPECT_EQ(7, other.m_pGraphPrv->m_lMenuConfig);
 }
 
 TEST(GraphFrame, CreateWithWindowShowsHidesAndLaysOut)
 {
-    TestHost host;
-    CGraph graph;
-    CRect rect(30, 40, 430, 340);
-    EXPECT_NE(0, graph.CreateGraph(host.Wnd(), NULL, rect, GS_RIGHTAXIS, 123, 63));
-    CGraphPrv* p = graph.m_pGraphPrv;
+    GraphInHost g(GS_RIGHTAXIS, CRect(30, 40, 430, 340), 123);
+    EXPECT_NE(0, g.m_nCreated);
+    CGraphPrv* p = g.Prv();
     ASSERT_TRUE(p->m_hWnd != NULL);
-    EXPECT_EQ(host.Hwnd(), ::GetParent(p->m_hWnd));
+    EXPECT_EQ(g.m_host.Hwnd(), ::GetParent(p->m_hWnd));
     EXPECT_EQ(123, ::GetDlgCtrlID(p->m_hWnd));
     EXPECT_FALSE(::IsWindowVisible(p->m_hWnd));   // hidden until ShowGraph
     EXPECT_EQ(CRect(0, 0, 400, 300), p->m_rectGraph);
-    EXPECT_TRUE(p->m_legend.m_hWnd != NULL);
     EXPECT_EQ(p->m_hWnd, ::GetParent(p->m_legend.m_hWnd));
     EXPECT_EQ(4, p->m_legend.GetPosition());
 
-    EXPECT_EQ(1, graph.ShowGraph());
+    EXPECT_EQ(1, g.m_graph.ShowGraph());
     EXPECT_TRUE(::IsWindowVisible(p->m_hWnd));
-    EXPECT_EQ(1, graph.Replot());
+    EXPECT_EQ(1, g.m_graph.Replot());
     RECT rcUpdate;
     EXPECT_TRUE(::GetUpdateRect(p->m_hWnd, &rcUpdate, FALSE));
-    EXPECT_EQ(1, graph.Update());
-    EXPECT_EQ(1, graph.HideGraph());
+    EXPECT_EQ(1, g.m_graph.Update());
+    EXPECT_EQ(1, g.m_graph.HideGraph());
     EXPECT_FALSE(::IsWindowVisible(p->m_hWnd));
 
     RECT rcClient, rcScreen;
-    EXPECT_EQ(1, graph.GetGraphClientRect(&rcClient));
+    EXPECT_EQ(1, g.m_graph.GetGraphClientRect(&rcClient));
     EXPECT_EQ(CRect(0, 0, 400, 300), CRect(rcClient));
-    EXPECT_EQ(1, graph.GetGraphScreenRect(&rcScreen));
-    POINT pt = { 0, 0 };
+    EXPECT_EQ(1, g.m_graph.GetGraphScreenRect(&rcScreen));
+    POINT pt = { 0, 300 };
     ::ClientToScreen(p->m_hWnd, &pt);
     EXPECT_EQ(pt.x, rcScreen.left);
-    EXPECT_EQ(pt.y + 300, rcScreen.bottom);
+    EXPECT_EQ(pt.y, rcScreen.bottom);
     CRect rectPlot;
-    EXPECT_EQ(1, graph.GetPlotRect(rectPlot));
+    EXPECT_EQ(1, g.m_graph.GetPlotRect(rectPlot));
     EXPECT_EQ(p->m_rectPlot, rectPlot);
-
     // The window goes with the graph.
     HWND hWnd = p->m_hWnd;
-    graph.m_pGraphPrv->DestroyWindow();
+    p->DestroyWindow();
     EXPECT_FALSE(::IsWindow(hWnd));
 }
 
@@ -166,21 +139,16 @@ TEST(GraphFrame, RightAxisFollowsTheRightLabel)
     graph.m_pGraphPrv->m_dwStyle = GS_RIGHTAXIS | GS_RESERVED1;
     EXPECT_EQ(2, graph.HaveRightAxis());
     EXPECT_EQ(0, graph.RightAxisDisplayed());
-
     EXPECT_EQ(1, graph.SetYAxisLabel(1, "right"));
     EXPECT_NE(0, graph.RightAxisDisplayed());
     EXPECT_EQ(1, graph.SetYAxisLabel(1, ""));
     EXPECT_EQ(0, graph.RightAxisDisplayed());
-
     // Any axis but 1 is the left one.
     EXPECT_EQ(1, graph.SetYAxisLabel(5, "x"));
     CString str;
-    EXPECT_EQ(1, graph.GetYAxisLabel(0, str));
-    EXPECT_STREQ("x", str);
     EXPECT_EQ(1, graph.GetYAxisLabel(-1, str));
     EXPECT_STREQ("x", str);
     EXPECT_EQ(0, graph.RightAxisDisplayed());
-
     // The cross hair is taken down and put up again around the change.
     graph.m_pGraphPrv->m_dwState |= GST_CROSSHAIR;
     EXPECT_EQ(1, graph.SetYAxisLabel(1, "again"));
@@ -198,9 +166,13 @@ TEST(GraphFrame, ResolutionsFromNumberFormats)
 {
     CGraph graph;
     CGraphPrv* p = graph.m_pGraphPrv;
-    struct { const char* pszFormat; float fResolution; } cases[] = {
+    const struct
+    {
+        const char* pszFormat;
+        float fResolution;
+    } cases[] = {
         { "%.3f", 0.001f }, { "%.9f", 0.000001f }, { "%.12f", 0.000001f }, { "%d", 1.0f },
-        { "%g", 1.0f }, { "%.0f", 1.0f }, { "%.2f and %.5f", 0.01f }, { "%6.1E", 0.1f },
+        { "%g", 1.0f },     { "%.0f", 1.0f },      { "%.2f and %.5f", 0.01f }, { "%6.1E", 0.1f },
     };
     for (const auto& c : cases) {
         EXPECT_EQ(1, graph.SetXAxisNumFmt(c.pszFormat));
@@ -209,21 +181,8 @@ TEST(GraphFrame, ResolutionsFromNumberFormats)
     EXPECT_EQ(1, graph.SetYAxisNumFmt(1, "%.2f"));
     EXPECT_EQ(0.01f, p->m_fYResolution[1]);
     EXPECT_EQ(0.0f, p->m_fYResolution[0]);
-    EXPECT_EQ(1, graph.SetYAxisNumFmt(9, "%.4f"));
+    EXPECT_EQ(1, graph.SetYAxisNumFmt(9, "%.4f"));   // any axis but 1 is the left one
     EXPECT_EQ(0.0001f, p->m_fYResolution[0]);
     EXPECT_STREQ("%.4f", p->m_strYAxisNumFmt[0]);
     EXPECT_STREQ("%.2f", p->m_strYAxisNumFmt[1]);
-}
-
-TEST(GraphFrame, CreatableByRunTimeClass)
-{
-    CObject* pObject = RUNTIME_CLASS(CGraph)->CreateObject();
-    ASSERT_TRUE(pObject != NULL);
-    EXPECT_TRUE(pObject->IsKindOf(RUNTIME_CLASS(CGraph)));
-    CGraph* pGraph = (CGraph*)pObject;
-    EXPECT_TRUE(pGraph->m_pGraphPrv != NULL);
-    EXPECT_TRUE(pGraph->m_pGraphPrv->IsKindOf(RUNTIME_CLASS(CWnd)));
-    delete pObject;
-    EXPECT_TRUE(CRuntimeClass::FromName("CGraphPrv") == RUNTIME_CLASS(CGraphPrv));
-    EXPECT_TRUE(CRuntimeClass::FromName("CLineColor") == RUNTIME_CLASS(CLineColor));
 }

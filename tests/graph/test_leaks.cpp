@@ -1,9 +1,6 @@
 // Resources over many lives of a graph: memory and GDI objects come back to
 // where they were after thousands of create/destroy cycles with series.
-#include "gtest/gtest.h"
-#include "graph/Graph.h"
-#include "graph/GraphPrv.h"
-#include "TestHost.h"
+#include "TestUtil.h"
 #include <psapi.h>
 #include <vector>
 

@@ -1,10 +1,7 @@
 // The library's own resources: strings in Simplified Chinese through the
 // resource chain, and the plot cursor.
-#include "gtest/gtest.h"
-#include "graph/Graph.h"
-#include "graph/GraphPrv.h"
-#include "resources/resource.h"
 #include "TestUtil.h"
+#include "resources/resource.h"
 
 TEST(Resources, ChineseStringsThroughTheChain)
 {

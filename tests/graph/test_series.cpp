@@ -1,10 +1,5 @@
 // Series: float series referring to the host's arrays, double series with
 // owned float copies, updates under the lock, removal, look and extent.
-#include "gtest/gtest.h"
-#include "graph/Graph.h"
-#include "graph/GraphPrv.h"
-#include "series/PlotData.h"
-#include "TestHost.h"
 #include "TestUtil.h"
 #include <atomic>
 #include <chrono>
@@ -27,18 +22,11 @@ TEST(Series, FloatSeriesKeepsTheHostsArrays)
     EXPECT_EQ(4, pData->m_lPoints);
     EXPECT_EQ(0, pData->m_lStartIndex);
     EXPECT_EQ(0, pData->m_nYAxis);
-    // Colour mode 1: the caller's look, width 1.
-    EXPECT_EQ(0x123456u, pData->m_crLine);
-    EXPECT_EQ(0x123456u, pData->m_crAnnotate);
-    EXPECT_EQ(2, pData->m_nLineStyle);
-    EXPECT_EQ(3, pData->m_nAnnotate);
-    EXPECT_EQ(1, pData->m_nLineWidth);
-    // The extent of the points; the limits do not move.
-    EXPECT_EQ(1.0f, pData->m_fXMin);
-    EXPECT_EQ(4.0f, pData->m_fXMax);
-    EXPECT_EQ(-6.0f, pData->m_fYMin);
-    EXPECT_EQ(8.0f, pData->m_fYMax);
-    EXPECT_EQ(0.0, graph.m_pGraphPrv->m_dXMin);
+    // Colour mode 1: the caller's look, width 1; the extent of the points,
+    // while the limits do not move.
+    EXPECT_EQ("123456 123456 2 3 1", Str("%06lx %06lx %d %d %d", pData->m_crLine, pData->m_crAnnotate,
+                                          pData->m_nLineStyle, pData->m_nAnnotate, pData->m_nLineWidth));
+    EXPECT_EQ("1 4 -6 8", Str("%g %g %g %g", pData->m_fXMin, pData->m_fXMax, pData->m_fYMin, pData->m_fYMax));
     EXPECT_EQ(1.0, graph.m_pGraphPrv->m_dXMax);
 
     // Points that share one X value reach from 0 to it.
@@ -58,12 +46,9 @@ TEST(Series, FloatSeriesKeepsTheHostsArrays)
 
 TEST(Series, AddRulesNamesAndAxisFlags)
 {
-    TestHost host;
-    CGraph graph;
-    CRect rect(0, 0, 300, 200);
-    ASSERT_NE(0, graph.CreateGraph(host.Wnd(), NULL, rect, 0, 1, 63));
+    GraphInHost g;
+    CGraph& graph = g.m_graph;
     float afX[2] = { 0, 1 }, afY[2] = { 0, 1 };
-
     EXPECT_EQ(1, graph.AddPlotData("s", PLOT_YLEFT, afX, afY, 2, 0xFF, 0, 0));
     float afOther[2] = { 9, 9 };
     EXPECT_EQ(GRAPH_SERIESEXISTS, graph.AddPlotData("s", PLOT_YRIGHT, afOther, afOther, 2, 0, 0, 0));
@@ -108,15 +93,17 @@ TEST(Series, DoubleSeriesOwnsFloatCopiesWithReplacements)
     x.assign(x.size(), 0.0);
     y.assign(y.size(), 0.0);
 
-    EXPECT_EQ(0x7D4CCCCCu, BitsOf(pData->m_pfXData[0]));   // about 1.7014117e37
-    EXPECT_EQ(0x758637BCu, BitsOf(pData->m_pfYData[0]));   // about 3.4028233e32
+    // Beyond the float range a fixed value of about 1.7e37 (3.4e32 for Y),
+    // the largest float itself included; below it minus infinity.
+    EXPECT_EQ(0x7D4CCCCCu, BitsOf(pData->m_pfXData[0]));
+    EXPECT_EQ(0x758637BCu, BitsOf(pData->m_pfYData[0]));
+    EXPECT_EQ(0x7D4CCCCCu, BitsOf(pData->m_pfXData[4]));
+    EXPECT_EQ(0x758637BCu, BitsOf(pData->m_pfYData[4]));
     EXPECT_TRUE(std::isinf(pData->m_pfXData[1]) && pData->m_pfXData[1] < 0);
     EXPECT_TRUE(std::isinf(pData->m_pfYData[1]) && pData->m_pfYData[1] < 0);
     EXPECT_EQ(0.1f, pData->m_pfXData[2]);
     EXPECT_TRUE(std::isnan(pData->m_pfXData[3]));
-    EXPECT_EQ(0x7D4CCCCCu, BitsOf(pData->m_pfXData[4]));   // the largest float itself is replaced
     EXPECT_EQ(3.4e38f, pData->m_pfXData[5]);
-    EXPECT_EQ(0x758637BCu, BitsOf(pData->m_pfYData[4]));
     EXPECT_EQ(-3.4028234663852886e38f, pData->m_pfYData[5]);
 }
 
@@ -184,10 +171,8 @@ TEST(Series, UpdateFromAnotherThreadWaitsForTheLock)
 
 TEST(Series, AttributesReadAndWrite)
 {
-    TestHost host;
-    CGraph graph;
-    CRect rect(0, 0, 300, 200);
-    ASSERT_NE(0, graph.CreateGraph(host.Wnd(), NULL, rect, 0, 1, 63));
+    GraphInHost g;
+    CGraph& graph = g.m_graph;
     float afX[2] = { 0, 1 }, afY[2] = { 0, 1 };
     ASSERT_EQ(1, graph.AddPlotData("look", PLOT_YLEFT, afX, afY, 2, 0x10, 1, 2));
 
@@ -195,11 +180,7 @@ TEST(Series, AttributesReadAndWrite)
     DWORD crLine = 0, crAnnotate = 0;
     int nStyle = 0, nWidth = 0, nAnnotate = 0;
     EXPECT_EQ(1, graph.GetPlotDataAttributes("look", crLine, nStyle, nWidth, nAnnotate, crAnnotate));
-    EXPECT_EQ(0xABCDEFu, crLine);
-    EXPECT_EQ(3, nStyle);
-    EXPECT_EQ(4, nWidth);
-    EXPECT_EQ(5, nAnnotate);
-    EXPECT_EQ(0x654321u, crAnnotate);
+    EXPECT_EQ("abcdef 3 4 5 654321", Str("%06lx %d %d %d %06lx", crLine, nStyle, nWidth, nAnnotate, crAnnotate));
 
     // The legend entry follows the new look.
     CLegend& legend = graph.m_pGraphPrv->m_legend;
@@ -225,29 +206,29 @@ TEST(Series, PointLabelsAndHighlightsKeepParallelArrays)
     EXPECT_EQ(1, data.AddLabel("p", 1.0, 2.0, 1, "first"));
     EXPECT_EQ(0x00FF00u, data.GetAnnotateColor());   // labels take the line colour
     EXPECT_EQ(1, data.AddLabel("q", 3.0, 4.0, 2, "second"));
-    EXPECT_EQ(1, data.AddLabel("p", 5.0, 6.0, 3, "moved"));
-    ASSERT_EQ(2, data.m_aLabelNames.GetSize());
-    EXPECT_STREQ("moved", data.m_aLabelTexts[0]);
-    EXPECT_EQ(5.0, data.m_aLabelX[0]);
-    EXPECT_EQ(3, data.m_aLabelStyles[0]);
+    EXPECT_EQ(1, data.AddLabel("p", 5.0, 6.0, 3, "moved"));   // the same name replaces
+    auto labels = [&] {
+        return Str("%d %d %d %d %d", (int)data.m_aLabelNames.GetSize(), (int)data.m_aLabelTexts.GetSize(),
+                   (int)data.m_aLabelX.GetSize(), (int)data.m_aLabelY.GetSize(), (int)data.m_aLabelStyles.GetSize());
+    };
+    EXPECT_EQ("2 2 2 2 2", labels());
+    EXPECT_EQ("moved 5 6 3", Str("%s %g %g %d", (LPCSTR)data.m_aLabelTexts[0], data.m_aLabelX[0], data.m_aLabelY[0],
+                                 data.m_aLabelStyles[0]));
     EXPECT_EQ(0, data.RemoveLabel("nobody"));
     EXPECT_EQ(1, data.RemoveLabel("p"));
+    EXPECT_EQ("second", std::string(data.m_aLabelTexts[0]));
     EXPECT_EQ(1, data.RemoveLabel("q"));
-    EXPECT_EQ(0, data.m_aLabelNames.GetSize());
-    EXPECT_EQ(0, data.m_aLabelTexts.GetSize());
-    EXPECT_EQ(0, data.m_aLabelX.GetSize());
-    EXPECT_EQ(0, data.m_aLabelY.GetSize());
-    EXPECT_EQ(0, data.m_aLabelStyles.GetSize());
+    EXPECT_EQ("0 0 0 0 0", labels());
 
     EXPECT_EQ(1, data.AddPointHighlight("h", 1, 2, 4));
     EXPECT_EQ(1, data.AddPointHighlight("h", 3, 4, 5));
     EXPECT_EQ(1, data.AddPointHighlight("k", 5, 6, 6));
     ASSERT_EQ(2, data.m_aPointHighlightNames.GetSize());
-    EXPECT_EQ(3.0, data.m_aPointHighlightX[0]);
-    EXPECT_EQ(5, data.m_aPointHighlightStyles[0]);
+    EXPECT_EQ("3 4 5", Str("%g %g %d", data.m_aPointHighlightX[0], data.m_aPointHighlightY[0],
+                           data.m_aPointHighlightStyles[0]));
     EXPECT_EQ(1, data.RemovePointHighlight("h"));
-    EXPECT_STREQ("k", data.m_aPointHighlightNames[0]);
     EXPECT_EQ(0, data.RemovePointHighlight("h"));
+    EXPECT_STREQ("k", data.m_aPointHighlightNames[0]);
     data.RemoveAllPointHighlights();
     EXPECT_EQ(0, data.m_aPointHighlightY.GetSize());
 }

@@ -1,7 +1,7 @@
 // The paint handler of the graph window, driven by real invalidation and
 // WM_PAINT: which parts it draws for which update region, the cursor hidden
 // while it paints, and PlotLine straight onto the window.
-#include "RenderTestUtil.h"
+#include "Surface.h"
 
 namespace {
 
@@ -21,11 +21,6 @@ public:
         m_nLabels++;
         return CGraphPrv::PutLabels(pDC);
     }
-    void Reset()
-    {
-        m_nPlots = 0;
-        m_nLabels = 0;
-    }
 
     int m_nPlots = 0;
     int m_nLabels = 0;
@@ -43,16 +38,31 @@ public:
         m_graph.ShowGraph();
         TestHost::Pump();
         m_graph.GetPlotRect(m_rectPlot);
-        m_graph.Reset();
     }
-    ~PaintFixture() { m_graph.DestroyWindow(); }
+    ~PaintFixture()
+    {
+        m_graph.RemoveAllPlotData();
+        m_graph.DestroyWindow();
+    }
 
-    // Invalidates r alone (without erasing) and lets the window paint it.
-    void PaintOnly(const CRect& r)
+    // Invalidates r alone (without erasing), lets the window paint it and
+    // tells what was drawn: "plots labels".
+    std::string PaintOnly(const CRect& r)
     {
         ::ValidateRect(m_graph.m_hWnd, NULL);
-        ::InvalidateRect(m_graph.m_hWnd, &r, FALSE);
-        ::UpdateWindow(m_graph.m_hWnd);
+        m_graph.m_nPlots = m_graph.m_nLabels = 0;
+        if (r.IsRectEmpty()) {
+            m_graph.SendMessage(WM_PAINT);
+        } else {
+            ::InvalidateRect(m_graph.m_hWnd, &r, FALSE);
+            ::UpdateWindow(m_graph.m_hWnd);
+        }
+        return Str("%d %d", m_graph.m_nPlots, m_graph.m_nLabels);
+    }
+    COLORREF Pixel(int x, int y)
+    {
+        CClientDC dc(&m_graph);
+        return dc.GetPixel(x, y);
     }
 
     TestHost m_host;
@@ -62,47 +72,21 @@ public:
 
 } // namespace
 
-TEST(PaintHandler, APaintThatTouchesThePlotDrawsEverything)
-{
-    PaintFixture f;
-    ASSERT_TRUE(f.m_graph.m_hWnd != NULL);
-    ASSERT_GT(f.m_rectPlot.Width(), 50);
-    f.PaintOnly(CRect(f.m_rectPlot.left + 5, f.m_rectPlot.top + 5, f.m_rectPlot.left + 20, f.m_rectPlot.top + 20));
-    EXPECT_EQ(1, f.m_graph.m_nPlots);
-    EXPECT_EQ(1, f.m_graph.m_nLabels);   // from inside Plot
-}
-
-TEST(PaintHandler, ThePlotsLastColumnCountsAsThePlot)
+TEST(PaintHandler, TheUpdateRegionChoosesWhatIsDrawn)
 {
     PaintFixture f;
     const CRect& r = f.m_rectPlot;
-    f.PaintOnly(CRect(r.right, r.top, r.right + 1, r.bottom + 1));
-    EXPECT_EQ(1, f.m_graph.m_nPlots);
-    f.m_graph.Reset();
-    f.PaintOnly(CRect(r.left, r.bottom, r.right, r.bottom + 1));
-    EXPECT_EQ(1, f.m_graph.m_nPlots);
-}
-
-TEST(PaintHandler, AMarginOnlyPaintDrawsTheTextAlone)
-{
-    PaintFixture f;
-    const CRect& r = f.m_rectPlot;
-    f.PaintOnly(CRect(0, 0, r.left, r.bottom));             // left of the plot
-    EXPECT_EQ(0, f.m_graph.m_nPlots);
-    EXPECT_EQ(1, f.m_graph.m_nLabels);
-    f.m_graph.Reset();
-    f.PaintOnly(CRect(r.right + 1, r.top, r.right + 5, r.bottom));   // just right of it
-    EXPECT_EQ(0, f.m_graph.m_nPlots);
-    EXPECT_EQ(1, f.m_graph.m_nLabels);
-}
-
-TEST(PaintHandler, AnEmptyUpdateRegionDrawsNothing)
-{
-    PaintFixture f;
-    ::ValidateRect(f.m_graph.m_hWnd, NULL);
-    f.m_graph.SendMessage(WM_PAINT);
-    EXPECT_EQ(0, f.m_graph.m_nPlots);
-    EXPECT_EQ(0, f.m_graph.m_nLabels);
+    ASSERT_GT(r.Width(), 50);
+    // Touching the plot: everything, the labels from inside Plot. The plot's
+    // last column and row count as the plot.
+    EXPECT_EQ("1 1", f.PaintOnly(CRect(r.left + 5, r.top + 5, r.left + 20, r.top + 20)));
+    EXPECT_EQ("1 1", f.PaintOnly(CRect(r.right, r.top, r.right + 1, r.bottom + 1)));
+    EXPECT_EQ("1 1", f.PaintOnly(CRect(r.left, r.bottom, r.right, r.bottom + 1)));
+    // The margins only: the text alone.
+    EXPECT_EQ("0 1", f.PaintOnly(CRect(0, 0, r.left, r.bottom)));
+    EXPECT_EQ("0 1", f.PaintOnly(CRect(r.right + 1, r.top, r.right + 5, r.bottom)));
+    // Nothing to update: nothing drawn.
+    EXPECT_EQ("0 0", f.PaintOnly(CRect()));
 }
 
 TEST(PaintHandler, TheCursorIsHiddenWhileThePlotIsDrawn)
@@ -110,8 +94,7 @@ TEST(PaintHandler, TheCursorIsHiddenWhileThePlotIsDrawn)
     PaintFixture f;
     HCURSOR hArrow = ::LoadCursorA(NULL, (LPCSTR)IDC_ARROW);
     ::SetCursor(hArrow);
-    f.PaintOnly(f.m_rectPlot);
-    ASSERT_EQ(1, f.m_graph.m_nPlots);
+    ASSERT_EQ("1 1", f.PaintOnly(f.m_rectPlot));
     EXPECT_EQ(NULL, f.m_graph.m_hCursorDuringPlot);
     EXPECT_EQ(hArrow, ::GetCursor());
 }
@@ -123,37 +106,27 @@ TEST(PaintHandler, ASeriesIsPaintedOnTheWindow)
     f.m_graph.AddPlotData("line", PLOT_YLEFT, x.data(), y.data(), 2, BLUE, PS_SOLID, 0);
     f.m_graph.Replot();
     ::UpdateWindow(f.m_graph.m_hWnd);
-    EXPECT_EQ(1, f.m_graph.m_nPlots);
     // The pixel arrays are those of the window's plot rectangle.
-    CPlotData* pData = NULL;
-    f.m_graph.m_mapPlotData.Lookup("line", pData);
-    ASSERT_TRUE(pData != NULL);
-    EXPECT_EQ(2, pData->m_lPointCount);
+    CPlotData* pData = FindSeries(&f.m_graph, "line");
+    ASSERT_EQ(2, pData->m_lPointCount);
     EXPECT_EQ(f.m_graph.DataToPixelX(0.1), pData->m_pPointArray[0].x);
     EXPECT_EQ(f.m_graph.DataToPixelY(0.5, 0), pData->m_pPointArray[0].y);
-    HDC hDC = ::GetDC(f.m_graph.m_hWnd);
-    EXPECT_EQ(BLUE, ::GetPixel(hDC, f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(0.5, 0)));
-    ::ReleaseDC(f.m_graph.m_hWnd, hDC);
-    f.m_graph.RemoveAllPlotData();
+    EXPECT_EQ(BLUE, f.Pixel(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(0.5, 0)));
 }
 
 TEST(PaintHandler, PlotLineDrawsStraightOntoTheWindowInsideThePlot)
 {
     PaintFixture f;
+    f.m_graph.m_nPlots = 0;
     EXPECT_EQ(1, f.m_graph.PlotLine(-1.0, 0.5, 2.0, 0.5, MAGENTA, PS_SOLID, 0));
     EXPECT_EQ(0, f.m_graph.m_nPlots);
-    const int y = f.m_graph.DataToPixelY(0.5, 0);
-    HDC hDC = ::GetDC(f.m_graph.m_hWnd);
-    EXPECT_EQ(MAGENTA, ::GetPixel(hDC, f.m_graph.DataToPixelX(0.5), y));
-    EXPECT_EQ(MAGENTA, ::GetPixel(hDC, f.m_rectPlot.right, y));
-    EXPECT_NE(MAGENTA, ::GetPixel(hDC, f.m_rectPlot.right + 1, y));
-    EXPECT_NE(MAGENTA, ::GetPixel(hDC, f.m_rectPlot.left - 1, y));
-    ::ReleaseDC(f.m_graph.m_hWnd, hDC);
-
+    const int x = f.m_graph.DataToPixelX(0.5), y = f.m_graph.DataToPixelY(0.5, 0);
+    EXPECT_EQ(MAGENTA, f.Pixel(x, y));
+    EXPECT_EQ(MAGENTA, f.Pixel(f.m_rectPlot.right, y));
+    EXPECT_NE(MAGENTA, f.Pixel(f.m_rectPlot.right + 1, y));
+    EXPECT_NE(MAGENTA, f.Pixel(f.m_rectPlot.left - 1, y));
     // It is part of no picture: the next paint takes it away.
     f.m_graph.Replot();
     ::UpdateWindow(f.m_graph.m_hWnd);
-    hDC = ::GetDC(f.m_graph.m_hWnd);
-    EXPECT_NE(MAGENTA, ::GetPixel(hDC, f.m_graph.DataToPixelX(0.5), y));
-    ::ReleaseDC(f.m_graph.m_hWnd, hDC);
+    EXPECT_NE(MAGENTA, f.Pixel(x, y));
 }

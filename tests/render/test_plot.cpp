@@ -1,26 +1,31 @@
 // The plot pipeline and the series lines on a 32-bit DIB section through
 // CGraph::Plot: frame and background, reference lines, series on both axes,
 // black and white, dashes, highlight regions, a scaled context, the state of
-// the context and the GDI objects after many paints.
-#include "RenderTestUtil.h"
+// the context and the GDI objects after many paints, and the series lock.
+#include "Surface.h"
 #include <limits>
 #include <thread>
 
 namespace {
 
 // A horizontal series at left-axis value dY from X 0.1 to 0.9, 9 points.
-std::vector<float> Xs() { return { 0.1f, 0.2f, 0.3f, 0.4f, 0.5f, 0.6f, 0.7f, 0.8f, 0.9f }; }
-std::vector<float> Flat(float dY) { return std::vector<float>(9, dY); }
-
-// Pixels of colour cr in column x between the plot's top and bottom rows.
-int CountInColumn(const Dib& dib, int x, const CRect& r, COLORREF cr)
+std::vector<float> Xs()
 {
-    return dib.Count(x, r.top, x + 1, r.bottom + 1, cr);
+    return { 0.1f, 0.2f, 0.3f, 0.4f, 0.5f, 0.6f, 0.7f, 0.8f, 0.9f };
+}
+std::vector<float> Flat(float dY)
+{
+    return std::vector<float>(9, dY);
 }
 
-int CountInRow(const Dib& dib, int y, const CRect& r, COLORREF cr)
+// Pixels of colour cr in column x, or in row y, of the plot rectangle.
+int InColumn(PlotFixture& f, int x, COLORREF cr)
 {
-    return dib.Count(r.left, y, r.right + 1, y + 1, cr);
+    return f.m_dib.Count(x, f.m_rectPlot.top, x + 1, f.m_rectPlot.bottom + 1, cr);
+}
+int InRow(PlotFixture& f, int y, COLORREF cr)
+{
+    return f.m_dib.Count(f.m_rectPlot.left, y, f.m_rectPlot.right + 1, y + 1, cr);
 }
 
 } // namespace
@@ -32,19 +37,15 @@ TEST(Pipeline, FrameAndBackgroundCoverThePlotRectangleInclusive)
     ASSERT_GT(r.Width(), 100);
     EXPECT_EQ(GRAPH_OK, f.Plot());
     // The frame runs along all four edges, right and bottom included.
-    for (int x = r.left; x <= r.right; x++) {
-        ASSERT_EQ(FRAME, f.m_dib.At(x, r.top)) << x;
-        ASSERT_EQ(FRAME, f.m_dib.At(x, r.bottom)) << x;
-    }
-    for (int y = r.top; y <= r.bottom; y++) {
-        ASSERT_EQ(FRAME, f.m_dib.At(r.left, y)) << y;
-        ASSERT_EQ(FRAME, f.m_dib.At(r.right, y)) << y;
-    }
+    EXPECT_EQ(r.Width() + 1, InRow(f, r.top, FRAME));
+    EXPECT_EQ(r.Width() + 1, InRow(f, r.bottom, FRAME));
+    EXPECT_EQ(r.Height() + 1, InColumn(f, r.left, FRAME));
+    EXPECT_EQ(r.Height() + 1, InColumn(f, r.right, FRAME));
     // Inside, the background (tic marks stand only near the edges).
-    const CPoint c = r.CenterPoint();
-    EXPECT_EQ((r.Width() / 2) * (r.Height() / 2), f.m_dib.Count(c.x - r.Width() / 4, c.y - r.Height() / 4,
-                                                             c.x - r.Width() / 4 + r.Width() / 2,
-                                                             c.y - r.Height() / 4 + r.Height() / 2, BACKGROUND));
+    const CRect rInner(r.left + r.Width() / 4, r.top + r.Height() / 4, r.right - r.Width() / 4,
+                       r.bottom - r.Height() / 4);
+    EXPECT_EQ(rInner.Width() * rInner.Height(),
+              f.m_dib.Count(rInner.left, rInner.top, rInner.right, rInner.bottom, BACKGROUND));
     // Around it nothing: no texts, no numbers, no grid beyond the frame.
     EXPECT_EQ(0, f.m_dib.CountOtherOutside(r, CANVAS));
 }
@@ -63,7 +64,7 @@ TEST(Pipeline, NothingOfASeriesLandsOutsideThePlot)
     f.Add("dash", y, x, MAGENTA, PS_DASH, PLOT_YRIGHT);
     EXPECT_EQ(GRAPH_OK, f.Plot());
     EXPECT_EQ(0, f.m_dib.CountOtherOutside(f.m_rectPlot, CANVAS));
-    EXPECT_GT(f.m_dib.Count(0, 0, f.m_dib.m_nWidth, f.m_dib.m_nHeight, BLUE), 500);
+    EXPECT_GT(f.m_dib.CountAll(BLUE), 500);
 }
 
 TEST(Pipeline, ReferenceLinesStandStrictlyBetweenTheLimits)
@@ -75,7 +76,6 @@ TEST(Pipeline, ReferenceLinesStandStrictlyBetweenTheLimits)
     f.m_graph.AddReferenceLine("middle", 1, 0.5);
     f.m_graph.AddReferenceLine("level", 0, 2.5);
     f.m_graph.AddReferenceLine("on y max", 0, 10.0);
-
     // Drawn alone with a pen of the test's own, the lines on a limit would
     // show on the frame's place.
     {
@@ -83,32 +83,30 @@ TEST(Pipeline, ReferenceLinesStandStrictlyBetweenTheLimits)
         CSelectGuard selectPen(f.DC(), &pen);
         f.Prv()->DrawReferenceLines(f.DC());
     }
-    const int xMiddle = f.m_graph.DataToPixelX(0.5);
-    const int yLevel = f.m_graph.DataToPixelY(2.5, 0);
-    // Vertical: top to bottom, LineTo leaving out the last pixel.
-    EXPECT_EQ(r.Height(), CountInColumn(f.m_dib, xMiddle, r, MAGENTA));
-    EXPECT_EQ(CANVAS, f.m_dib.At(xMiddle, r.bottom));
-    EXPECT_EQ(r.Width(), CountInRow(f.m_dib, yLevel, r, MAGENTA));
+    const CPoint pt = f.Px(0.5, 2.5);
+    // Top to bottom and left to right, LineTo leaving out the last pixel.
+    EXPECT_EQ(r.Height(), InColumn(f, pt.x, MAGENTA));
+    EXPECT_EQ(CANVAS, f.m_dib.At(pt.x, r.bottom));
+    EXPECT_EQ(r.Width(), InRow(f, pt.y, MAGENTA));
     // The limits themselves get none: only the crossings of the two drawn lines.
-    EXPECT_EQ(1, CountInColumn(f.m_dib, r.left, r, MAGENTA));
-    EXPECT_EQ(0, CountInColumn(f.m_dib, r.right, r, MAGENTA));
-    EXPECT_EQ(1, CountInRow(f.m_dib, r.top, r, MAGENTA));
+    EXPECT_EQ(1, InColumn(f, r.left, MAGENTA));
+    EXPECT_EQ(0, InColumn(f, r.right, MAGENTA));
+    EXPECT_EQ(1, InRow(f, r.top, MAGENTA));
 
     // In a paint they take the frame's pen, and a points-only paint has none.
     f.m_dib.Fill(CANVAS);
     f.Plot(1);
-    EXPECT_EQ(0, CountInColumn(f.m_dib, xMiddle, r, FRAME));
+    EXPECT_EQ(0, InColumn(f, pt.x, FRAME));
     f.Plot();
-    EXPECT_EQ(FRAME, f.m_dib.At(xMiddle, r.CenterPoint().y));
-    EXPECT_EQ(FRAME, f.m_dib.At(r.CenterPoint().x, yLevel));
-
+    EXPECT_EQ(FRAME, f.m_dib.At(pt.x, r.CenterPoint().y));
+    EXPECT_EQ(FRAME, f.m_dib.At(r.CenterPoint().x, pt.y));
     // A horizontal line keeps to the left axis, and a reversed axis still shows it.
     f.m_graph.SetXAxisLimits(1.0, 0.0);
     f.m_graph.SetYAxisLimits(0.0, 1.0, 1);
     f.m_dib.Fill(CANVAS);
     f.Plot();
-    EXPECT_EQ(FRAME, f.m_dib.At(f.m_graph.DataToPixelX(0.5), r.CenterPoint().y));
-    EXPECT_EQ(FRAME, f.m_dib.At(r.CenterPoint().x, f.m_graph.DataToPixelY(2.5, 0)));
+    EXPECT_EQ(FRAME, f.m_dib.At(f.Px(0.5, 0).x, r.CenterPoint().y));
+    EXPECT_EQ(FRAME, f.m_dib.At(r.CenterPoint().x, f.Px(0, 2.5).y));
 }
 
 TEST(Pipeline, SeriesFollowTheirOwnAxes)
@@ -117,33 +115,28 @@ TEST(Pipeline, SeriesFollowTheirOwnAxes)
     f.Add("left", Xs(), Flat(5.0f), BLUE);
     f.Add("right", Xs(), Flat(125.0f), MAGENTA, PS_SOLID, PLOT_YRIGHT);
     f.Plot();
-    const int x = f.m_graph.DataToPixelX(0.5);
-    const int yLeft = f.m_graph.DataToPixelY(5.0, 0);
-    const int yRight = f.m_graph.DataToPixelY(125.0, 1);
-    ASSERT_NE(yLeft, yRight);
-    EXPECT_EQ(BLUE, f.m_dib.At(x, yLeft));
-    EXPECT_EQ(MAGENTA, f.m_dib.At(x, yRight));
-    EXPECT_EQ(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.1), yLeft));
-
+    const CPoint ptLeft = f.Px(0.5, 5.0), ptRight = f.Px(0.5, 125.0, 1);
+    ASSERT_NE(ptLeft.y, ptRight.y);
+    EXPECT_EQ(BLUE, f.m_dib.At(ptLeft.x, ptLeft.y));
+    EXPECT_EQ(MAGENTA, f.m_dib.At(ptRight.x, ptRight.y));
+    EXPECT_EQ(BLUE, f.AtData(0.1, 5.0));
     // New limits on the left axis leave the right-axis series where it was.
     f.m_graph.SetYAxisLimits(0.0, 40.0, 0);
     f.m_dib.Fill(CANVAS);
     f.Plot();
-    EXPECT_EQ(MAGENTA, f.m_dib.At(x, yRight));
-    EXPECT_EQ(BLUE, f.m_dib.At(x, f.m_graph.DataToPixelY(5.0, 0)));
-    EXPECT_NE(BLUE, f.m_dib.At(x, yLeft));
-}
+    EXPECT_EQ(MAGENTA, f.m_dib.At(ptRight.x, ptRight.y));
+    EXPECT_EQ(BLUE, f.AtData(0.5, 5.0));
+    EXPECT_NE(BLUE, f.m_dib.At(ptLeft.x, ptLeft.y));
 
-TEST(Pipeline, SeriesWithoutALineDrawNone)
-{
-    PlotFixture f;
-    f.Add("single", std::vector<float>{ 0.5f }, std::vector<float>{ 5.0f }, BLUE);
-    f.Add("hidden", Xs(), Flat(3.0f), BLUE, 5);
-    EXPECT_EQ(GRAPH_OK, f.Plot());
-    EXPECT_EQ(0, f.m_dib.Count(0, 0, f.m_dib.m_nWidth, f.m_dib.m_nHeight, BLUE));
-    // The pixels of the single point were computed all the same.
-    EXPECT_EQ(1, f.Series("single")->m_lPointCount);
-    EXPECT_FALSE(f.Prv()->m_bPointsStale);
+    // A single point, or line style 5, draws no line; the pixels of the
+    // point were computed all the same.
+    PlotFixture g;
+    g.Add("single", std::vector<float>{ 0.5f }, std::vector<float>{ 5.0f }, BLUE);
+    g.Add("hidden", Xs(), Flat(3.0f), BLUE, 5);
+    EXPECT_EQ(GRAPH_OK, g.Plot());
+    EXPECT_EQ(0, g.m_dib.CountAll(BLUE));
+    EXPECT_EQ(1, g.Series("single")->m_lPointCount);
+    EXPECT_FALSE(g.Prv()->m_bPointsStale);
 }
 
 TEST(Pipeline, ABlackAndWhiteContextDrawsBlackOnWhite)
@@ -152,6 +145,7 @@ TEST(Pipeline, ABlackAndWhiteContextDrawsBlackOnWhite)
     f.Add("line", Xs(), Flat(5.0f), BLUE);
     PlotFixture::AddRegion(f.Series("line"), 2, 5, MAGENTA, PS_DOT);
     f.m_graph.AddReferenceLine("middle", 1, 0.55);
+    EXPECT_EQ(1, f.Prv()->IsColorDevice(f.DC()));   // a screen-like memory context
     // A printout with WINDING fill mode is black and white.
     f.DC()->SetPrinting(TRUE);
     ::SetPolyFillMode(f.DC()->m_hDC, WINDING);
@@ -161,20 +155,15 @@ TEST(Pipeline, ABlackAndWhiteContextDrawsBlackOnWhite)
     ::SetPolyFillMode(f.DC()->m_hDC, ALTERNATE);
 
     const CRect& r = f.m_rectPlot;
-    const int nArea = (r.Width() + 1) * (r.Height() + 1);
-    EXPECT_EQ(nArea, f.m_dib.Count(r.left, r.top, r.right + 1, r.bottom + 1, WHITE) +
-                         f.m_dib.Count(r.left, r.top, r.right + 1, r.bottom + 1, BLACK));
+    EXPECT_EQ((r.Width() + 1) * (r.Height() + 1), f.m_dib.Count(r.left, r.top, r.right + 1, r.bottom + 1, WHITE) +
+                                                        f.m_dib.Count(r.left, r.top, r.right + 1, r.bottom + 1, BLACK));
     EXPECT_EQ(BLACK, f.m_dib.At(r.left, r.top));
     EXPECT_EQ(WHITE, f.m_dib.At(r.CenterPoint().x + 3, r.CenterPoint().y + 7));
-    const int y = f.m_graph.DataToPixelY(5.0, 0);
-    EXPECT_EQ(BLACK, f.m_dib.At(f.m_graph.DataToPixelX(0.15), y));
+    EXPECT_EQ(BLACK, f.AtData(0.15, 5.0));
     // The region keeps only its dotted style: black and white along its stretch.
-    const int x1 = f.m_graph.DataToPixelX(0.3) + 2, x2 = f.m_graph.DataToPixelX(0.6) - 2;
+    const int y = f.Px(0, 5.0).y, x1 = f.Px(0.3, 0).x + 2, x2 = f.Px(0.6, 0).x - 2;
     EXPECT_GT(f.m_dib.Count(x1, y, x2, y + 1, WHITE), 0);
     EXPECT_GT(f.m_dib.Count(x1, y, x2, y + 1, BLACK), 0);
-
-    // A screen-like memory context is in colour.
-    EXPECT_EQ(1, f.Prv()->IsColorDevice(f.DC()));
 }
 
 TEST(Pipeline, DashGapsShowWhatLiesUnderThem)
@@ -184,16 +173,14 @@ TEST(Pipeline, DashGapsShowWhatLiesUnderThem)
     f.DC()->SetBkMode(OPAQUE);
     f.DC()->SetBkColor(MAGENTA);
     f.Plot();
-    const int y = f.m_graph.DataToPixelY(5.0, 0);
-    const int x1 = f.m_graph.DataToPixelX(0.1), x2 = f.m_graph.DataToPixelX(0.9);
+    const int y = f.Px(0, 5.0).y, x1 = f.Px(0.1, 0).x, x2 = f.Px(0.9, 0).x;
     const int nBlue = f.m_dib.Count(x1, y, x2, y + 1, BLUE);
     const int nGaps = f.m_dib.Count(x1, y, x2, y + 1, BACKGROUND);
     EXPECT_GT(nBlue, (x2 - x1) / 3);
     EXPECT_GT(nGaps, (x2 - x1) / 10);
     EXPECT_EQ(x2 - x1, nBlue + nGaps);
-    EXPECT_EQ(0, f.m_dib.Count(0, 0, f.m_dib.m_nWidth, f.m_dib.m_nHeight, MAGENTA));
-    // The context's own mode is back.
-    EXPECT_EQ(OPAQUE, f.DC()->GetBkMode());
+    EXPECT_EQ(0, f.m_dib.CountAll(MAGENTA));
+    EXPECT_EQ(OPAQUE, f.DC()->GetBkMode());   // the context's own mode is back
 }
 
 TEST(Pipeline, HighlightRegionsAreDrawnInTheirOwnPen)
@@ -213,14 +200,12 @@ TEST(Pipeline, HighlightRegionsAreDrawnInTheirOwnPen)
     EXPECT_EQ(30, pRegion->m_lPixelStart);
     EXPECT_EQ(60, pRegion->m_lPixelEnd);
     const POINT* p = pData->m_pPointArray;
-    EXPECT_EQ(BLUE, f.m_dib.At(p[15].x, p[15].y));
-    EXPECT_EQ(MAGENTA, f.m_dib.At(p[45].x, p[45].y));
-    EXPECT_EQ(BLUE, f.m_dib.At(p[70].x, p[70].y));
-    EXPECT_EQ(BLUE, f.m_dib.At(p[80].x, p[80].y));
+    for (int i : { 15, 70, 80 })
+        EXPECT_EQ(BLUE, f.m_dib.At(p[i].x, p[i].y)) << i;
     // The region's pen has the series' width.
-    EXPECT_EQ(MAGENTA, f.m_dib.At(p[45].x, p[45].y - 1));
-    EXPECT_EQ(MAGENTA, f.m_dib.At(p[45].x, p[45].y + 1));
-    EXPECT_EQ(0, f.m_dib.Count(0, 0, f.m_dib.m_nWidth, f.m_dib.m_nHeight, BLACK));
+    for (int dy : { -1, 0, 1 })
+        EXPECT_EQ(MAGENTA, f.m_dib.At(p[45].x, p[45].y + dy)) << dy;
+    EXPECT_EQ(0, f.m_dib.CountAll(BLACK));
 }
 
 TEST(Pipeline, AScaledContextDrawsSeriesInDevicePixels)
@@ -232,27 +217,20 @@ TEST(Pipeline, AScaledContextDrawsSeriesInDevicePixels)
     pDC->SetWindowExt(400, 300);
     pDC->SetViewportExt(800, 600);
     f.m_graph.SizeGraph(pDC, 0, 0, 400, 300, FALSE);
-    CRect rLogical;
+    CRect rLogical, rAfter;
     f.m_graph.GetPlotRect(rLogical);
     CPlotData* pData = f.Add("wide", Xs(), Flat(5.0f), BLUE);
     pData->m_nLineWidth = 3;
     f.Plot();
-    CRect rGot;
-    f.m_graph.GetPlotRect(rGot);
-    EXPECT_TRUE(rGot == rLogical);
+    f.m_graph.GetPlotRect(rAfter);
+    EXPECT_TRUE(rAfter == rLogical);
     EXPECT_EQ(MM_ANISOTROPIC, pDC->GetMapMode());
-
-    // The series computed on the device's plot rectangle (its corners doubled).
-    const CRect rDevice(rLogical.left * 2, rLogical.top * 2, rLogical.right * 2, rLogical.bottom * 2);
-    const double dScale = (double)(rDevice.bottom - rDevice.top) / 10.0;
-    const int yDevice = (int)(dScale * 0.0 + rDevice.bottom + 0.50001 - dScale * 5.0);
+    // The series computed on the device's plot rectangle (its corners
+    // doubled), drawn with a pen 3 device pixels wide: 3 rows, not 6.
+    const int yDevice = (int)(2 * rLogical.bottom + 0.50001 - (2.0 * rLogical.Height() / 10.0) * 5.0);
     EXPECT_EQ(yDevice, pData->m_pPointArray[0].y);
-    // A pen 3 wide in device pixels: exactly 3 rows, not 6.
-    const int x = (rDevice.left + rDevice.right) / 2;
-    int nRows = 0;
-    for (int yy = yDevice - 8; yy <= yDevice + 8; yy++)
-        nRows += f.m_dib.At(x, yy) == BLUE;
-    EXPECT_EQ(3, nRows);
+    const int x = rLogical.left + rLogical.right;
+    EXPECT_EQ(3, f.m_dib.Count(x, yDevice - 8, x + 1, yDevice + 9, BLUE));
     EXPECT_EQ(BLUE, f.m_dib.At(x, yDevice));
 }
 
@@ -263,25 +241,20 @@ TEST(Pipeline, NoPlotStyleAndPointsOnlyPaints)
         f.Prv()->m_dwStyle |= GS_NOPLOT;
         f.Add("line", Xs(), Flat(5.0f), BLUE);
         EXPECT_EQ(GRAPH_NOTAVAILABLE, f.Plot());
-        EXPECT_EQ(0, f.m_dib.CountOtherOutside(CRect(-1, -1, -1, -1), CANVAS));
-        f.m_graph.RemoveAllPlotData();
+        EXPECT_EQ(0, f.m_dib.Count(0, 0, 400, 300, CANVAS, true));
     }
     PlotFixture f;
     // No series: a points-only paint draws nothing at all.
     EXPECT_EQ(GRAPH_OK, f.Plot(1));
-    EXPECT_EQ(0, f.m_dib.CountOtherOutside(CRect(-1, -1, -1, -1), CANVAS));
+    EXPECT_EQ(0, f.m_dib.Count(0, 0, 400, 300, CANVAS, true));
     // With a series: the series alone, over what the context shows.
     f.Add("line", Xs(), Flat(5.0f), BLUE);
     EXPECT_EQ(GRAPH_OK, f.Plot(1));
     EXPECT_EQ(CANVAS, f.m_dib.At(f.m_rectPlot.left, f.m_rectPlot.top));
-    EXPECT_EQ(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(5.0, 0)));
-}
+    EXPECT_EQ(BLUE, f.AtData(0.5, 5.0));
 
-TEST(Pipeline, FloatingLeftTicsAndAShownRightAxisLoseTheGridForGood)
-{
-    PlotFixture f;
+    // Floating left tics and a shown right axis lose the grid for good.
     ASSERT_EQ(GRAPH_OK, f.m_graph.ShowGrid(0x18));
-    ASSERT_EQ(1, f.Prv()->m_nYTicType[0]);
     f.m_graph.SetYAxisLabel(1, "right");
     f.Plot();
     DWORD dwType = 0, crGrid = 0;
@@ -296,58 +269,48 @@ TEST(Pipeline, TheContextIsGivenBackAsItWas)
     f.Add("dashed", Xs(), Flat(5.0f), BLUE, PS_DASH);
     PlotFixture::AddRegion(f.Series("dashed"), 2, 4, MAGENTA, PS_SOLID);
     f.m_graph.AddReferenceLine("middle", 1, 0.5);
-    CDC* pDC = f.DC();
-    HDC hDC = pDC->m_hDC;
-
-    HPEN hPen = ::CreatePen(PS_SOLID, 2, MAGENTA);
-    HBRUSH hBrush = ::CreateSolidBrush(MAGENTA);
-    HFONT hFont = (HFONT)::GetStockObject(ANSI_VAR_FONT);
-    HGDIOBJ hOldPen = ::SelectObject(hDC, hPen);
-    HGDIOBJ hOldBrush = ::SelectObject(hDC, hBrush);
-    HGDIOBJ hOldFont = ::SelectObject(hDC, hFont);
+    f.m_graph.SetTicMarkType(0, 1, NULL);
+    f.m_graph.SetGridAttributes(0x1C, MAGENTA, PS_DASH);
+    f.m_graph.SetXAxisNumFmt("%.1f");
+    f.m_graph.SetXAxisLabel("X");
+    f.m_graph.SetYAxisLabel(0, "Y");
+    const HDC hDC = f.DC()->m_hDC;
+    CPen pen(PS_SOLID, 2, MAGENTA);
+    CBrush brush(MAGENTA);
+    CSelectGuard selectPen(f.DC(), &pen);
+    CSelectGuard selectBrush(f.DC(), &brush);
+    CSelectGuard selectFont(f.DC(), ::GetStockObject(ANSI_VAR_FONT));
     ::SetBkMode(hDC, OPAQUE);
     ::SetBkColor(hDC, RGB(1, 2, 3));
     ::SetTextColor(hDC, RGB(4, 5, 6));
-    ::SetROP2(hDC, R2_COPYPEN);
     ::SetTextAlign(hDC, TA_BASELINE | TA_CENTER);
-    HRGN hClip = ::CreateRectRgn(5, 5, 390, 290);
+    HRGN hClip = ::CreateRectRgn(5, 5, 390, 290), hAfter = ::CreateRectRgn(0, 0, 0, 0);
     ::SelectClipRgn(hDC, hClip);
-
+    // The objects, modes and colours of the context, and whether its clip
+    // region is hClip.
+    auto state = [&] {
+        const int nClip = ::GetClipRgn(hDC, hAfter);
+        return Str("%p %p %p %d %06lx %06lx %d %u %d %d %d", ::GetCurrentObject(hDC, OBJ_PEN),
+                   ::GetCurrentObject(hDC, OBJ_BRUSH), ::GetCurrentObject(hDC, OBJ_FONT), ::GetBkMode(hDC),
+                   ::GetBkColor(hDC), ::GetTextColor(hDC), ::GetROP2(hDC), ::GetTextAlign(hDC), ::GetMapMode(hDC),
+                   nClip, nClip == 1 && ::EqualRgn(hAfter, hClip));
+    };
+    const std::string strBefore = state();
     for (int nPointsOnly = 0; nPointsOnly <= 1; nPointsOnly++) {
-        EXPECT_EQ(GRAPH_OK, f.m_graph.Plot(pDC, nPointsOnly));
-        EXPECT_EQ(hPen, ::GetCurrentObject(hDC, OBJ_PEN));
-        EXPECT_EQ(hBrush, ::GetCurrentObject(hDC, OBJ_BRUSH));
-        EXPECT_EQ(hFont, ::GetCurrentObject(hDC, OBJ_FONT));
-        EXPECT_EQ(OPAQUE, ::GetBkMode(hDC));
-        EXPECT_EQ(RGB(1, 2, 3), ::GetBkColor(hDC));
-        EXPECT_EQ(RGB(4, 5, 6), ::GetTextColor(hDC));
-        EXPECT_EQ(R2_COPYPEN, ::GetROP2(hDC));
-        EXPECT_EQ((UINT)(TA_BASELINE | TA_CENTER), ::GetTextAlign(hDC));
-        EXPECT_EQ(MM_TEXT, ::GetMapMode(hDC));
-        HRGN hAfter = ::CreateRectRgn(0, 0, 0, 0);
-        EXPECT_EQ(1, ::GetClipRgn(hDC, hAfter));
-        EXPECT_TRUE(::EqualRgn(hAfter, hClip));
-        ::DeleteObject(hAfter);
+        EXPECT_EQ(GRAPH_OK, f.m_graph.Plot(f.DC(), nPointsOnly));
+        EXPECT_EQ(strBefore, state()) << nPointsOnly;
     }
-
     // A context without a clip region of its own gets back the empty region
     // that stood for it, which clips everything: a caller that draws on sets
     // its own.
     ::SelectClipRgn(hDC, NULL);
-    f.m_graph.Plot(pDC, 0);
-    HRGN hAfter = ::CreateRectRgn(0, 0, 0, 0);
-    EXPECT_EQ(1, ::GetClipRgn(hDC, hAfter));
+    f.m_graph.Plot(f.DC(), 0);
     RECT rBox;
+    EXPECT_EQ(1, ::GetClipRgn(hDC, hAfter));
     EXPECT_EQ(NULLREGION, ::GetRgnBox(hAfter, &rBox));
-    ::DeleteObject(hAfter);
-
     ::SelectClipRgn(hDC, NULL);
-    ::SelectObject(hDC, hOldPen);
-    ::SelectObject(hDC, hOldBrush);
-    ::SelectObject(hDC, hOldFont);
-    ::DeleteObject(hPen);
-    ::DeleteObject(hBrush);
     ::DeleteObject(hClip);
+    ::DeleteObject(hAfter);
 }
 
 TEST(Pipeline, ThousandsOfPaintsLeaveNoGdiObjectBehind)
@@ -357,7 +320,9 @@ TEST(Pipeline, ThousandsOfPaintsLeaveNoGdiObjectBehind)
     f.Add("dashed", Xs(), Flat(7.0f), MAGENTA, PS_DASH, PLOT_YRIGHT);
     PlotFixture::AddRegion(f.Series("solid"), 2, 5, MAGENTA, PS_DOT);
     f.m_graph.AddReferenceLine("middle", 1, 0.5);
-    f.m_graph.ShowGrid(0x18);
+    f.m_graph.SetTicMarkType(0, 1, NULL);
+    f.m_graph.ShowGrid(0x1C);
+    f.m_graph.SetXAxisNumFmt("%.1f");
     f.Plot();   // first-time allocations of the system
     const LONG nBefore = CGdiObject::GetLiveCount();
     for (int i = 0; i < 2000; i++) {
@@ -366,10 +331,10 @@ TEST(Pipeline, ThousandsOfPaintsLeaveNoGdiObjectBehind)
     }
     f.DC()->SetPrinting(FALSE);
     EXPECT_EQ(nBefore, CGdiObject::GetLiveCount());
-    // And the pictures still come: the series is there after the last paint.
+    // And the pictures still come.
     f.m_dib.Fill(CANVAS);
     f.Plot();
-    EXPECT_EQ(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.15), f.m_graph.DataToPixelY(5.0, 0)));
+    EXPECT_EQ(BLUE, f.AtData(0.15, 5.0));
 }
 
 TEST(Pipeline, TheSeriesLoopHoldsTheSeriesLock)
@@ -386,12 +351,12 @@ TEST(Pipeline, TheSeriesLoopHoldsTheSeriesLock)
     });
     EXPECT_EQ((DWORD)WAIT_TIMEOUT, ::WaitForSingleObject(hDone, 200));
     EXPECT_EQ(FRAME, f.m_dib.At(f.m_rectPlot.left, f.m_rectPlot.top));   // the frame came first
-    EXPECT_NE(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(5.0, 0)));
+    EXPECT_NE(BLUE, f.AtData(0.5, 5.0));
     f.Prv()->m_csPlotData.Unlock();
     EXPECT_EQ((DWORD)WAIT_OBJECT_0, ::WaitForSingleObject(hDone, 5000));
     painter.join();
     ::CloseHandle(hDone);
-    EXPECT_EQ(BLUE, f.m_dib.At(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(5.0, 0)));
+    EXPECT_EQ(BLUE, f.AtData(0.5, 5.0));
 }
 
 TEST(Pipeline, AStyleTheSystemRefusesNeitherThrowsNorLeaks)

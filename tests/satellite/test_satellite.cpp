@@ -1,10 +1,7 @@
 // The English satellite: a second InitializeZPXGraph under an English thread
 // locale puts the satellite at the head of the resource chain.
-#include "gtest/gtest.h"
-#include "graph/Graph.h"
-#include "graph/GraphPrv.h"
-#include "resources/resource.h"
 #include "TestUtil.h"
+#include "resources/resource.h"
 
 TEST(Satellite, EnglishLocaleSwitchesTheTexts)
 {
@@ -14,10 +11,10 @@ TEST(Satellite, EnglishLocaleSwitchesTheTexts)
     ASSERT_TRUE(str.LoadString(IDS_LOCK));
     EXPECT_STREQ(AnsiOf(L"\u9501\u5B9A(&K)"), str);
 
-    LCID lcidOld = ::GetThreadLocale();
-    ::SetThreadLocale(MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT));
-    InitializeZPXGraph();
-    ::SetThreadLocale(lcidOld);
+    {
+        ThreadLocale locale(lcidEnglish);
+        InitializeZPXGraph();
+    }
 
     ASSERT_TRUE(str.LoadString(IDS_LOCK));
     EXPECT_STREQ("&Lock", str);

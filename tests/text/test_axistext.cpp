@@ -2,73 +2,98 @@
 // limit rectangles, the locale's decimal sign, rotated and stacked titles.
 // What is written is read back from a metafile recording (text and
 // reference point), where it is drawn from the pixels of a DIB section.
-#include "TextTestUtil.h"
-#include <math.h>
+#include "Surface.h"
+#include <algorithm>
 
 namespace {
 
-// Metrics of the graph's font as the drawers use them.
-struct Measures
+// One text call as a metafile keeps it: the reference point and the text in
+// the ANSI code page.
+struct TextCall
 {
-    int nLine;      // tmHeight + tmExternalLeading
-    int nCharW;     // average digit width + overhang
-    TEXTMETRIC tm;
+    int x, y;
+    std::string text;
 };
 
-Measures Measure(GraphOnCanvas& g)
+int CALLBACK RecordProc(HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam)
 {
-    Measures m;
-    m.tm = g.Metrics();
-    m.nLine = m.tm.tmHeight + m.tm.tmExternalLeading;
-    m.nCharW = g.TextWidth("0123456789") / 10 - 2 + m.tm.tmOverhang;
-    return m;
+    if (pRecord->iType == EMR_EXTTEXTOUTW || pRecord->iType == EMR_EXTTEXTOUTA) {
+        const EMREXTTEXTOUTW* p = (const EMREXTTEXTOUTW*)pRecord;
+        const BYTE* pText = (const BYTE*)pRecord + p->emrtext.offString;
+        TextCall call = { p->emrtext.ptlReference.x, p->emrtext.ptlReference.y, std::string() };
+        if (pRecord->iType == EMR_EXTTEXTOUTW) {
+            char sz[512];
+            int n = ::WideCharToMultiByte(CP_ACP, 0, (LPCWSTR)pText, (int)p->emrtext.nChars, sz, sizeof(sz), NULL,
+                                          NULL);
+            call.text.assign(sz, n > 0 ? n : 0);
+        } else {
+            call.text.assign((const char*)pText, p->emrtext.nChars);
+        }
+        ((std::vector<TextCall>*)lParam)->push_back(call);
+    }
+    return 1;
 }
 
-// The width GetLabelWExtent gives a number.
-int LabelWidth(GraphOnCanvas& g, const std::string& str)
+// What PutLabels writes on a metafile context (which refers to the screen,
+// so metrics and fonts are those of a screen context).
+std::vector<TextCall> Labels(CGraphPrv* p)
+{
+    std::vector<TextCall> calls;
+    HDC hMeta = ::CreateEnhMetaFileA(NULL, NULL, NULL, NULL);
+    {
+        CDC dc;
+        dc.Attach(hMeta);
+        p->PutLabels(&dc);
+        dc.Detach();
+    }
+    HENHMETAFILE hEmf = ::CloseEnhMetaFile(hMeta);
+    ::EnumEnhMetaFile(NULL, hEmf, RecordProc, &calls, NULL);
+    ::DeleteEnhMetaFile(hEmf);
+    return calls;
+}
+
+// Where the first call with the text wrote it; far off when none did.
+CPoint Where(const std::vector<TextCall>& calls, const std::string& str)
+{
+    for (const TextCall& c : calls)
+        if (c.text == str)
+            return CPoint(c.x, c.y);
+    return CPoint(-9999, -9999);
+}
+
+int CountText(const std::vector<TextCall>& calls, const std::string& str)
+{
+    return (int)std::count_if(calls.begin(), calls.end(), [&](const TextCall& c) { return c.text == str; });
+}
+
+// The line height of the graph's font, and the width GetLabelWExtent gives
+// a number.
+int LineOf(CanvasGraph& g)
+{
+    const TEXTMETRIC tm = g.Metrics();
+    return tm.tmHeight + tm.tmExternalLeading;
+}
+
+int LabelWidth(CanvasGraph& g, const std::string& str)
 {
     return g.TextWidth(str.c_str()) + g.Metrics().tmOverhang + 3;
 }
 
-std::vector<TextCall> Labels(GraphOnCanvas& g)
+// A floating X or Y table set by hand: values and pixels.
+void SetTable(CGraphPrv* p, int nAxis, int nCount, const double* pdValues, const int* pnPixels)
 {
-    return RecordText([&](CDC* pDC) { g.Prv()->PutLabels(pDC); });
-}
-
-// A floating X table set by hand: values and pixels.
-void SetXTable(CGraphPrv* p, int nCount, const double* pdValues, const int* pnPixels)
-{
-    p->m_nXTicType = 1;
-    p->m_nXTicCount = nCount;
+    const bool bX = nAxis < 0;
+    (bX ? p->m_nXTicType : p->m_nYTicType[nAxis]) = 1;
+    (bX ? p->m_nXTicCount : p->m_nYTicCount[nAxis]) = nCount;
     for (int i = 0; i <= nCount; i++) {
-        p->m_dXTicValue[i] = pdValues[i];
-        p->m_nXTicPixel[i] = pnPixels[i];
+        (bX ? p->m_dXTicValue[i] : p->m_dYTicValue[nAxis][i]) = pdValues[i];
+        (bX ? p->m_nXTicPixel[i] : p->m_nYTicPixel[nAxis][i]) = pnPixels[i];
     }
-    p->m_dXMin = pdValues[0];
-    p->m_dXMax = pdValues[nCount];
+    (bX ? p->m_dXMin : p->m_dYMin[nAxis]) = pdValues[0];
+    (bX ? p->m_dXMax : p->m_dYMax[nAxis]) = pdValues[nCount];
 }
 
-void SetYTable(CGraphPrv* p, int nAxis, int nCount, const double* pdValues, const int* pnPixels)
-{
-    p->m_nYTicType[nAxis] = 1;
-    p->m_nYTicCount[nAxis] = nCount;
-    for (int i = 0; i <= nCount; i++) {
-        p->m_dYTicValue[nAxis][i] = pdValues[i];
-        p->m_nYTicPixel[nAxis][i] = pnPixels[i];
-    }
-    p->m_dYMin[nAxis] = pdValues[0];
-    p->m_dYMax[nAxis] = pdValues[nCount];
-}
-
-// The thread's locale for the time of a test.
-class ThreadLocale
-{
-public:
-    explicit ThreadLocale(LCID lcid) : m_lcidOld(::GetThreadLocale()) { ::SetThreadLocale(lcid); }
-    ~ThreadLocale() { ::SetThreadLocale(m_lcidOld); }
-private:
-    LCID m_lcidOld;
-};
+const int X = -1;
 
 } // namespace
 
@@ -80,47 +105,38 @@ TEST(AxisText, FormatLabelSuitablyKeepsTenCharactersOrElevenBelowZero)
 {
     CGraph graph;
     CGraphPrv* p = graph.m_pGraphPrv;
-    char sz[256];
+    char sz[400];
     p->FormatLabelSuitably(sz, "%.4f", -12345.6789);
     EXPECT_STREQ("-12345.6789", sz);   // 11 characters, negative: stays
     p->FormatLabelSuitably(sz, "%.5f", 12345.6789);
     EXPECT_EQ(Fmt("%.3E", 12345.6789), sz);   // 11 characters, positive: the widest format
     p->FormatLabelSuitably(sz, "%.4f", 12345.6789);
-    EXPECT_STREQ("12345.6789", sz);    // 10 characters
+    EXPECT_STREQ("12345.6789", sz);   // 10 characters
     p->FormatLabelSuitably(sz, "%.5f", -12345.6789);
     EXPECT_EQ(Fmt("%.3E", -12345.6789), sz);   // 12 characters
-    p->FormatLabelSuitably(sz, "%g", 0.5);
-    EXPECT_STREQ("0.5", sz);
-}
 
-TEST(AxisText, FormatLabelSuitablyStaysInsideItsBuffer)
-{
-    CGraph graph;
-    CGraphPrv* p = graph.m_pGraphPrv;
-    // A host format that writes 300 characters: the text is cut at the
-    // buffer of 256 bytes and then written again in the widest format.
-    char sz[400];
+    // A host format that writes 300 characters is cut at the buffer of 256
+    // bytes and then written again in the widest format, inside the buffer.
     memset(sz, 'Z', sizeof(sz));
     p->m_strMaxLenFormat = "%300.1f";
     p->FormatLabelSuitably(sz, "%299.1f", 1.0);
     EXPECT_EQ(255u, strlen(sz));
-    for (size_t i = 256; i < sizeof(sz); i++)
-        ASSERT_EQ('Z', sz[i]) << i;
+    EXPECT_EQ(std::string(sizeof(sz) - 256, 'Z'), std::string(sz + 256, sizeof(sz) - 256));
 }
 
 TEST(AxisText, GetLabelWExtentStripsLeadingBlanksInPlace)
 {
-    GraphOnCanvas g;
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
     CSelectGuard font(g.DC(), &p->m_font);
     CString str = "   1.25";
     int w = 0;
     p->GetLabelWExtent(g.DC(), str, 0, &w);
     EXPECT_STREQ("   1.25", str);
-    EXPECT_EQ(g.TextWidth("   1.25") + g.Metrics().tmOverhang + 3, w);
+    EXPECT_EQ(LabelWidth(g, "   1.25"), w);
     p->GetLabelWExtent(g.DC(), str, 1, &w);
     EXPECT_STREQ("1.25", str);
-    EXPECT_EQ(g.TextWidth("1.25") + g.Metrics().tmOverhang + 3, w);
+    EXPECT_EQ(LabelWidth(g, "1.25"), w);
 }
 
 // ---------------------------------------------------------------------------
@@ -129,7 +145,7 @@ TEST(AxisText, GetLabelWExtentStripsLeadingBlanksInPlace)
 
 TEST(AxisText, EndNumbersAndTheSixLimitRectangles)
 {
-    GraphOnCanvas g(400, 300);
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
     p->SetXAxisNumFmt("%.1f");
     p->SetYAxisNumFmt(0, "%.2f");
@@ -138,119 +154,83 @@ TEST(AxisText, EndNumbersAndTheSixLimitRectangles)
     p->SetXAxisLimits(-2.0, 3.0);
     p->SetYAxisLimits(-1.0, 10.0, 0);
     p->SetYAxisLimits(0.5, 7.5, 1);
-    std::vector<TextCall> calls = Labels(g);
-
-    const Measures m = Measure(g);
+    const std::vector<TextCall> calls = Labels(p);
+    const int L = LineOf(g);
     const CRect r = p->m_rectPlot;
-    const int yLabel = r.bottom + m.nLine / 2 + 1;
-    const int yTop = r.top - m.nLine / 2, yBottom = r.bottom - m.nLine / 2;
-
-    int w = LabelWidth(g, "-2.0");
-    EXPECT_EQ(CRect(r.left - w / 2, yLabel, r.left - w / 2 + w, yLabel + m.nLine), p->m_rectLimit[0]);
-    w = LabelWidth(g, "3.0");
-    EXPECT_EQ(CRect(r.right - w / 2, yLabel, r.right - w / 2 + w, yLabel + m.nLine), p->m_rectLimit[1]);
-    w = LabelWidth(g, "10.00");
-    EXPECT_EQ(CRect(r.left - w, yTop, r.left, yTop + m.nLine), p->m_rectLimit[2]);
-    w = LabelWidth(g, "-1.00");
-    EXPECT_EQ(CRect(r.left - w, yBottom, r.left, yBottom + m.nLine), p->m_rectLimit[3]);
-    w = LabelWidth(g, "7.500");
-    EXPECT_EQ(CRect(r.right + 2, yTop, r.right + 2 + w, yTop + m.nLine), p->m_rectLimit[4]);
-    w = LabelWidth(g, "0.500");
-    EXPECT_EQ(CRect(r.right + 2, yBottom, r.right + 2 + w, yBottom + m.nLine), p->m_rectLimit[5]);
-
-    // Each end number stands at the top left corner of its rectangle.
+    const int yLabel = r.bottom + L / 2 + 1, yTop = r.top - L / 2, yBottom = r.bottom - L / 2;
     const char* aszEnds[6] = { "-2.0", "3.0", "10.00", "-1.00", "7.500", "0.500" };
+    int w[6];
+    for (int i = 0; i < 6; i++)
+        w[i] = LabelWidth(g, aszEnds[i]);
+    const CRect expected[6] = {
+        CRect(r.left - w[0] / 2, yLabel, r.left - w[0] / 2 + w[0], yLabel + L),
+        CRect(r.right - w[1] / 2, yLabel, r.right - w[1] / 2 + w[1], yLabel + L),
+        CRect(r.left - w[2], yTop, r.left, yTop + L),
+        CRect(r.left - w[3], yBottom, r.left, yBottom + L),
+        CRect(r.right + 2, yTop, r.right + 2 + w[4], yTop + L),
+        CRect(r.right + 2, yBottom, r.right + 2 + w[5], yBottom + L),
+    };
+    // Each end number stands at the top left corner of its rectangle.
     for (int i = 0; i < 6; i++) {
-        const TextCall* pCall = FindCall(calls, aszEnds[i]);
-        ASSERT_TRUE(pCall != NULL) << aszEnds[i];
-        EXPECT_EQ(p->m_rectLimit[i].left, pCall->x) << aszEnds[i];
-        EXPECT_EQ(p->m_rectLimit[i].top, pCall->y) << aszEnds[i];
+        EXPECT_EQ(expected[i], p->m_rectLimit[i]) << aszEnds[i];
+        EXPECT_EQ(expected[i].TopLeft(), Where(calls, aszEnds[i])) << aszEnds[i];
     }
-}
 
-TEST(AxisText, NumbersArePaintedInsideTheirRectanglesInTheTextColour)
-{
-    GraphOnCanvas g(400, 300);
-    CGraphPrv* p = g.Prv();
-    p->SetXAxisNumFmt("%.1f");
-    p->SetYAxisNumFmt(0, "%.1f");
+    // Painted inside its rectangle in the text colour: smoothed text blends
+    // 0x800000 with the white background, so its pixels lean to blue.
     p->m_crText = 0x800000;
     p->PutLabels(g.DC());
-    // Smoothed text blends the colour with the white background: its pixels
-    // lean to blue, as 0x800000 does.
     for (int i = 0; i < 4; i++) {
         const CRect& rc = p->m_rectLimit[i];
         int nBlue = 0;
         for (int y = rc.top; y < rc.bottom; y++)
             for (int x = rc.left; x < rc.right; x++) {
-                const COLORREF cr = g.m_canvas.At(x, y);
+                const COLORREF cr = g.m_dib.At(x, y);
                 nBlue += GetBValue(cr) > GetRValue(cr) + 0x20 && GetRValue(cr) == GetGValue(cr);
             }
         EXPECT_GT(nBlue, 0) << i;
     }
-    // Left of the X minimum's rectangle, on its rows, nothing is written.
     const CRect& rc0 = p->m_rectLimit[0];
-    EXPECT_EQ(0, g.m_canvas.CountOther(rc0.left - 6, rc0.top, rc0.left, rc0.bottom, 0xFFFFFF));
+    EXPECT_EQ(0, g.m_dib.Count(rc0.left - 6, rc0.top, rc0.left, rc0.bottom, WHITE, true));
 }
 
-TEST(AxisText, AxesWithoutFormatsShowNoNumbersAndKeepTheirRectangles)
+TEST(AxisText, WhichAxesWriteTheirNumbers)
 {
-    GraphOnCanvas g(400, 300);
+    // Without formats: no numbers, and the rectangles keep what they held.
+    CanvasGraph g(400, 300, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
     const CRect rectSentinel(1, 2, 3, 4);
     for (int i = 0; i < 6; i++)
         p->m_rectLimit[i] = rectSentinel;
     p->SetYAxisLabel(1, "R");
-    std::vector<TextCall> calls = Labels(g);
-    for (int i = 0; i < 6; i++)
-        EXPECT_EQ(rectSentinel, p->m_rectLimit[i]) << i;
+    std::vector<TextCall> calls = Labels(p);
     ASSERT_EQ(1u, calls.size());   // the right title alone
     EXPECT_EQ("R", calls[0].text);
-}
+    for (int i = 0; i < 6; i++)
+        EXPECT_EQ(rectSentinel, p->m_rectLimit[i]) << i;
 
-TEST(AxisText, NoPlotStyleDropsTheXNumbersOnly)
-{
-    GraphOnCanvas g(400, 300, GS_NOWINDOW | GS_NOPLOT);
-    CGraphPrv* p = g.Prv();
-    const CRect rectSentinel(1, 2, 3, 4);
-    p->m_rectLimit[0] = p->m_rectLimit[1] = rectSentinel;
-    p->SetXAxisNumFmt("%.1f");
-    p->SetYAxisNumFmt(0, "%.1f");
-    p->SetXAxisLimits(5.0, 6.0);
-    p->SetYAxisLimits(7.0, 8.0, 0);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_EQ(rectSentinel, p->m_rectLimit[0]);
-    EXPECT_EQ(rectSentinel, p->m_rectLimit[1]);
-    EXPECT_TRUE(FindCall(calls, "5.0") == NULL);
-    EXPECT_TRUE(FindCall(calls, "6.0") == NULL);
-    EXPECT_TRUE(FindCall(calls, "7.0") != NULL);
-    EXPECT_TRUE(FindCall(calls, "8.0") != NULL);
-}
-
-TEST(AxisText, RightNumbersNeedTheRightTitle)
-{
-    GraphOnCanvas g(400, 300, GS_NOWINDOW | GS_RIGHTAXIS);
-    CGraphPrv* p = g.Prv();
-    const CRect rectSentinel(1, 2, 3, 4);
-    p->m_rectLimit[4] = p->m_rectLimit[5] = rectSentinel;
+    // The right numbers need the right title, not a left format; they
+    // stand at the ends of the axis.
     p->SetYAxisNumFmt(1, "%.1f");
     p->SetYAxisLimits(3.0, 4.0, 1);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_TRUE(calls.empty());
-    EXPECT_EQ(rectSentinel, p->m_rectLimit[4]);
-
-    // With a title but without a format of the left axis, the right numbers
-    // still stand at the ends of the axis.
+    p->SetYAxisLabel(1, "");
+    EXPECT_TRUE(Labels(p).empty());
     p->SetYAxisLabel(1, "R");
-    calls = Labels(g);
-    const Measures m = Measure(g);
-    const TextCall* pMax = FindCall(calls, "4.0");
-    ASSERT_TRUE(pMax != NULL);
-    EXPECT_EQ(p->m_rectPlot.right + 2, pMax->x);
-    EXPECT_EQ(p->m_rectPlot.top - m.nLine / 2, pMax->y);
-    const TextCall* pMin = FindCall(calls, "3.0");
-    ASSERT_TRUE(pMin != NULL);
-    EXPECT_EQ(p->m_rectPlot.bottom - m.nLine / 2, pMin->y);
+    calls = Labels(p);
+    EXPECT_EQ(CPoint(p->m_rectPlot.right + 2, p->m_rectPlot.top - LineOf(g) / 2), Where(calls, "4.0"));
+    EXPECT_EQ(p->m_rectPlot.bottom - LineOf(g) / 2, Where(calls, "3.0").y);
+
+    // The no-plot style drops the X numbers only.
+    CanvasGraph h(400, 300, GS_NOPLOT);
+    h.Prv()->m_rectLimit[0] = rectSentinel;
+    h.Prv()->SetXAxisNumFmt("%.1f");
+    h.Prv()->SetYAxisNumFmt(0, "%.1f");
+    h.Prv()->SetXAxisLimits(5.0, 6.0);
+    h.Prv()->SetYAxisLimits(7.0, 8.0, 0);
+    calls = Labels(h.Prv());
+    EXPECT_EQ(rectSentinel, h.Prv()->m_rectLimit[0]);
+    EXPECT_EQ(0, CountText(calls, "5.0") + CountText(calls, "6.0"));
+    EXPECT_EQ(2, CountText(calls, "7.0") + CountText(calls, "8.0"));
 }
 
 // ---------------------------------------------------------------------------
@@ -259,263 +239,200 @@ TEST(AxisText, RightNumbersNeedTheRightTitle)
 
 TEST(AxisText, FixedXMiddleNumberWhenThreeNumbersFit)
 {
-    GraphOnCanvas g(400, 300);
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
     p->SetTicMarkType(0, 0, NULL);
     p->SetXAxisNumFmt("%.1f");
     p->SetXAxisLimits(0.0, 10.0);
-    const Measures m = Measure(g);
-    CRect r = p->m_rectPlot;
+    const int nCharW = g.TextWidth("0123456789") / 10 - 2 + g.Metrics().tmOverhang;
+    const CRect r = p->m_rectPlot;
     // "10.0", the last text formatted before the middle, has 4 characters.
-    ASSERT_LE(3 * 4 * m.nCharW, r.Width());
-    std::vector<TextCall> calls = Labels(g);
-    const TextCall* pMid = FindCall(calls, "5.0");
-    ASSERT_TRUE(pMid != NULL);
-    EXPECT_EQ(r.left + (int)(r.Width() * 0.5) - LabelWidth(g, "5.0") / 2, pMid->x);
-    EXPECT_EQ(r.bottom + m.nLine / 2 + 1, pMid->y);
+    ASSERT_LE(3 * 4 * nCharW, r.Width());
+    std::vector<TextCall> calls = Labels(p);
     EXPECT_EQ(3u, calls.size());
-
+    EXPECT_EQ(CPoint(r.left + (int)(r.Width() * 0.5) - LabelWidth(g, "5.0") / 2, r.bottom + LineOf(g) / 2 + 1),
+              Where(calls, "5.0"));
     // One pixel too narrow for the rule: no middle number.
-    p->m_rectPlot.right = p->m_rectPlot.left + 3 * 4 * m.nCharW - 1;
-    calls = Labels(g);
-    EXPECT_TRUE(FindCall(calls, "5.0") == NULL);
-    EXPECT_EQ(2u, calls.size());
+    p->m_rectPlot.right = p->m_rectPlot.left + 3 * 4 * nCharW - 1;
+    EXPECT_EQ(2u, Labels(p).size());
     p->m_rectPlot.right += 1;
-    calls = Labels(g);
-    EXPECT_TRUE(FindCall(calls, "5.0") != NULL);
+    EXPECT_EQ(3u, Labels(p).size());
 }
 
 TEST(AxisText, FixedYMiddleNumbersLeftTestsEqualTextRightDoesNot)
 {
-    GraphOnCanvas g(400, 300, GS_NOWINDOW | GS_RIGHTAXIS);
+    CanvasGraph g(400, 300, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
     p->SetYAxisLabel(1, "R");
     p->SetTicMarkType(0, 0, NULL);
-    // Limits before formats: a format's resolution would widen a pair
-    // this narrow.
-    p->SetYAxisLimits(1.0, 1.01, 0);   // all three texts read "1.0"
+    // Limits before formats: a format's resolution would widen a pair this
+    // narrow. All three texts read "1.0".
+    p->SetYAxisLimits(1.0, 1.01, 0);
     p->SetYAxisLimits(1.0, 1.01, 1);
     p->SetYAxisNumFmt(0, "%.1f");
     p->SetYAxisNumFmt(1, "%.1f");
-    const Measures m = Measure(g);
+    const int L = LineOf(g);
     const CRect r = p->m_rectPlot;
-    ASSERT_GT(r.Height(), 5 * m.nLine);
-    std::vector<TextCall> calls = Labels(g);
+    ASSERT_GT(r.Height(), 5 * L);
     // Left: the ends only. Right: the ends and the middle, 2 pixels higher
     // than the left axis would place it.
-    int nLeft = 0, nRight = 0;
-    const TextCall* pRightMid = NULL;
-    for (const TextCall& c : calls) {
-        if (c.text != "1.0")
-            continue;
-        if (c.x < r.left)
-            nLeft++;
-        else if (c.x == r.right + 2) {
-            nRight++;
-            if (c.y != r.top - m.nLine / 2 && c.y != r.bottom - m.nLine / 2)
-                pRightMid = &c;
-        }
-    }
-    EXPECT_EQ(2, nLeft);
-    EXPECT_EQ(3, nRight);
-    ASSERT_TRUE(pRightMid != NULL);
-    EXPECT_EQ(r.bottom - m.nLine / 2 - (int)(r.Height() * 0.5) - 2, pRightMid->y);
-
+    std::vector<int> left, right;
+    for (const TextCall& c : Labels(p))
+        if (c.text == "1.0")
+            (c.x < r.left ? left : right).push_back(c.y);
+    EXPECT_EQ(2u, left.size());
+    std::sort(right.begin(), right.end());
+    EXPECT_EQ((std::vector<int>{ r.top - L / 2, r.bottom - L / 2 - (int)(r.Height() * 0.5) - 2, r.bottom - L / 2 }),
+              right);
     // Three decimals tell them apart: the left middle number appears.
     p->SetYAxisNumFmt(0, "%.3f");
-    calls = Labels(g);
-    const TextCall* pMid = FindCall(calls, Fmt("%.3f", p->m_dYTicValue[0][5]).c_str());
-    ASSERT_TRUE(pMid != NULL);
-    EXPECT_EQ(r.left - LabelWidth(g, pMid->text), pMid->x);
-    EXPECT_EQ(r.bottom - (int)(r.Height() * 0.5) - m.nLine / 2, pMid->y);
+    const std::string strMid = Fmt("%.3f", p->m_dYTicValue[0][5]);
+    EXPECT_EQ(CPoint(r.left - LabelWidth(g, strMid), r.bottom - (int)(r.Height() * 0.5) - L / 2),
+              Where(Labels(p), strMid));
 }
 
 // ---------------------------------------------------------------------------
 // Middle numbers of floating tics and the drop rules
 // ---------------------------------------------------------------------------
 
-TEST(AxisText, FloatingXNumberSlidByRoundingIsDropped)
+TEST(AxisText, FloatingXNumbersSlidByRoundingOrEqualToTheEndsAreDropped)
 {
     // Tics 0, 0.05, 0.10000051, 0.15000051, 0.2 with one decimal: tic 1
     // reads "0.1", nearer to tic 2 than to its own value, and is dropped;
     // tic 2 shows "0.1"; tic 3 reads "0.2", the text of the end, dropped.
-    GraphOnCanvas g(500, 300);
-    CGraphPrv* p = g.Prv();
-    p->SetXAxisNumFmt("%.1f");
-    const CRect r = p->m_rectPlot;
-    const double ad[5] = { 0.0, 0.05, 0.10000051, 0.15000051, 0.2 };
-    const int an[5] = { r.left, r.left + r.Width() / 4, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4, r.right };
-    SetXTable(p, 4, ad, an);
-    std::vector<TextCall> calls = Labels(g);
-    ASSERT_EQ(1, CountText(calls, "0.1"));
-    EXPECT_EQ(an[2] - LabelWidth(g, "0.1") / 2, FindCall(calls, "0.1")->x);
-    EXPECT_EQ(1, CountText(calls, "0.2"));
-    EXPECT_EQ(1, CountText(calls, "0.0"));
-    EXPECT_EQ(3u, calls.size());
-}
+    // Under a comma locale the same, with commas: the slide test reads the
+    // plain text back ("0.1" -> 0.1), where the comma text would read 0.
+    for (LCID lcid : { ::GetThreadLocale(), lcidGerman }) {
+        ThreadLocale locale(lcid);
+        char szDecimal[8];
+        ASSERT_GT(::GetLocaleInfoA(lcid, LOCALE_SDECIMAL, szDecimal, sizeof(szDecimal)), 0);
+        CanvasGraph g(500, 300);
+        CGraphPrv* p = g.Prv();
+        p->SetXAxisNumFmt("%.1f");
+        const CRect r = p->m_rectPlot;
+        const double ad[5] = { 0.0, 0.05, 0.10000051, 0.15000051, 0.2 };
+        const int an[5] = { r.left, r.left + r.Width() / 4, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4,
+                            r.right };
+        SetTable(p, X, 4, ad, an);
+        const std::vector<TextCall> calls = Labels(p);
+        EXPECT_EQ(3u, calls.size()) << szDecimal;
+        for (const char* psz : { "0%s0", "0%s1", "0%s2" })
+            EXPECT_EQ(1, CountText(calls, Str(psz, szDecimal))) << psz << szDecimal;
+        const std::string strMiddle = Str("0%s1", szDecimal);
+        EXPECT_EQ(an[2] - LabelWidth(g, strMiddle) / 2, Where(calls, strMiddle).x);
+    }
 
-TEST(AxisText, FloatingXNumbersEqualToTheEndsAreDropped)
-{
-    GraphOnCanvas g(500, 300);
+    // 0, 0.2, ..., 1 with no decimals: every middle number reads as an end.
+    CanvasGraph g(500, 300);
     CGraphPrv* p = g.Prv();
     p->SetXAxisNumFmt("%.0f");
-    p->SetXAxisLimits(0.0, 1.0);   // 0, 0.2, 0.4, 0.6, 0.8, 1 -> "0" and "1"
+    p->SetXAxisLimits(0.0, 1.0);
     ASSERT_EQ(5, p->m_nXTicCount);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_EQ(1, CountText(calls, "0"));
-    EXPECT_EQ(1, CountText(calls, "1"));
+    const std::vector<TextCall> calls = Labels(p);
     EXPECT_EQ(2u, calls.size());
+    EXPECT_EQ(1, CountText(calls, "0"));
 }
 
 TEST(AxisText, FloatingXNumbersThatWouldTouchAreDropped)
 {
-    GraphOnCanvas g(500, 300);
+    CanvasGraph g(500, 300);
     CGraphPrv* p = g.Prv();
     p->SetXAxisNumFmt("%.1f");
     const CRect r = p->m_rectPlot;
-    const int w2 = LabelWidth(g, "0.2"), w4 = LabelWidth(g, "0.4"), w6 = LabelWidth(g, "0.6");
-    const int w9 = LabelWidth(g, "0.9");
-    const int wEnd0 = LabelWidth(g, "0.0");
-    const int nLeftEnd = r.left - wEnd0 / 2 + wEnd0 + 2;
+    const int w2 = LabelWidth(g, "0.2"), w4 = LabelWidth(g, "0.4");
+    const int w6 = LabelWidth(g, "0.6"), w9 = LabelWidth(g, "0.9");
+    const int nLeftEnd = r.left - LabelWidth(g, "0.0") / 2 + LabelWidth(g, "0.0") + 2;
+    const int xRight = r.right - LabelWidth(g, "1.0") / 2;
     // Tic 1 so close to the left end that its number would start on
     // nLeftEnd; tic 2 free; tic 3 starting where tic 2's number ends + 2;
-    // tic 4 free; tic 5 ending 2 pixels before the right end number.
-    const int x2 = r.left + 150, x4 = r.left + 300;
-    const int nEnd2 = x2 - w4 / 2 + w4 + 2;
-    const int wRight = LabelWidth(g, "1.0");
-    const int xRight = r.right - wRight / 2;
+    // tic 4 free; tic 5 ending 2 pixels before the right end number. With
+    // one pixel more room at each place, all of them stand.
+    const int x2 = r.left + 150, x4 = r.left + 300, nEnd2 = x2 - w4 / 2 + w4 + 2;
     const double ad[7] = { 0.0, 0.2, 0.4, 0.6, 0.8, 0.9, 1.0 };
-    const int an[7] = { r.left, nLeftEnd + w2 / 2, x2, nEnd2 + w6 / 2, x4, xRight - 2 - w9 + w9 / 2, r.right };
-    SetXTable(p, 6, ad, an);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_TRUE(FindCall(calls, "0.2") == NULL);   // x equals nLeftEnd
-    ASSERT_TRUE(FindCall(calls, "0.4") != NULL);
-    EXPECT_EQ(x2 - w4 / 2, FindCall(calls, "0.4")->x);
-    EXPECT_TRUE(FindCall(calls, "0.6") == NULL);   // x equals the end of "0.4" + 2
-    EXPECT_TRUE(FindCall(calls, "0.8") != NULL);
-    EXPECT_TRUE(FindCall(calls, "0.9") == NULL);   // x + w + 2 equals xRight
-
-    // One pixel more room at each place: all of them stand.
-    const int anWider[7] = { r.left, nLeftEnd + 1 + w2 / 2, x2, nEnd2 + 1 + w6 / 2, x4, xRight - 3 - w9 + w9 / 2, r.right };
-    SetXTable(p, 6, ad, anWider);
-    calls = Labels(g);
-    const char* asz[5] = { "0.2", "0.4", "0.6", "0.8", "0.9" };
-    for (const char* psz : asz)
-        EXPECT_TRUE(FindCall(calls, psz) != NULL) << psz;
+    for (int nMore = 0; nMore <= 1; nMore++) {
+        const int an[7] = { r.left, nLeftEnd + nMore + w2 / 2, x2, nEnd2 + nMore + w6 / 2, x4,
+                            xRight - 2 - nMore - w9 + w9 / 2, r.right };
+        SetTable(p, X, 6, ad, an);
+        const std::vector<TextCall> calls = Labels(p);
+        for (const char* psz : { "0.2", "0.6", "0.9" })
+            EXPECT_EQ(nMore, CountText(calls, psz)) << psz;
+        EXPECT_EQ(x2 - w4 / 2, Where(calls, "0.4").x);
+        EXPECT_EQ(1, CountText(calls, "0.8"));
+    }
 }
 
 TEST(AxisText, FloatingYMiddleNumbersNeedMoreThanFiveLines)
 {
-    GraphOnCanvas g(400, 300);
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
     p->SetYAxisNumFmt(0, "%.1f");
-    const Measures m = Measure(g);
-    p->m_rectPlot.top = 40;
-    p->m_rectPlot.bottom = 40 + 5 * m.nLine;
+    const int L = LineOf(g);
     const double ad[3] = { 0.0, 0.5, 1.0 };
-    int an[3] = { p->m_rectPlot.bottom, (p->m_rectPlot.top + p->m_rectPlot.bottom) / 2, p->m_rectPlot.top };
-    SetYTable(p, 0, 2, ad, an);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_TRUE(FindCall(calls, "0.5") == NULL);
-    EXPECT_EQ(2u, calls.size());
-
-    p->m_rectPlot.bottom += 1;
-    an[0] = p->m_rectPlot.bottom;
-    SetYTable(p, 0, 2, ad, an);
-    calls = Labels(g);
-    const TextCall* pMid = FindCall(calls, "0.5");
-    ASSERT_TRUE(pMid != NULL);
-    EXPECT_EQ(an[1] - m.nLine / 2, pMid->y);
-    EXPECT_EQ(p->m_rectPlot.left - LabelWidth(g, "0.5"), pMid->x);
+    for (int nMore = 0; nMore <= 1; nMore++) {
+        p->m_rectPlot.top = 40;
+        p->m_rectPlot.bottom = 40 + 5 * L + nMore;
+        const int an[3] = { p->m_rectPlot.bottom, (p->m_rectPlot.top + p->m_rectPlot.bottom) / 2, 40 };
+        SetTable(p, 0, 2, ad, an);
+        const std::vector<TextCall> calls = Labels(p);
+        EXPECT_EQ(2u + nMore, calls.size());
+        EXPECT_EQ(nMore ? CPoint(p->m_rectPlot.left - LabelWidth(g, "0.5"), an[1] - L / 2) : CPoint(-9999, -9999),
+                  Where(calls, "0.5"));
+    }
 }
 
 TEST(AxisText, FloatingYNumbersNearTheEndsAreDropped)
 {
-    GraphOnCanvas g(400, 300, GS_NOWINDOW | GS_RIGHTAXIS);
+    CanvasGraph g(400, 300, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
     p->SetYAxisLabel(1, "R");
     p->SetYAxisNumFmt(0, "%.1f");
     p->SetYAxisNumFmt(1, "%.1f");
-    const Measures m = Measure(g);
+    const int L = LineOf(g);
     const CRect r = p->m_rectPlot;
-    const int yTop = r.top - m.nLine / 2, yBottom = r.bottom - m.nLine / 2;
-    // Tic 1 sits where its number would reach yBottom - nLine, tic 3 where
-    // its number would reach yTop + nLine: both dropped; tic 2 stands.
+    // Tic 1 sits where its number would reach the bottom end's less a line,
+    // tic 3 where it would reach the top end's plus a line: both dropped.
     const double ad[5] = { 0.0, 0.25, 0.5, 0.75, 1.0 };
-    const int an[5] = { r.bottom, yBottom - m.nLine + m.nLine / 2, (r.top + r.bottom) / 2,
-                        yTop + m.nLine + m.nLine / 2, r.top };
-    SetYTable(p, 0, 4, ad, an);
-    SetYTable(p, 1, 4, ad, an);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_EQ(0, CountText(calls, "0.2") + CountText(calls, "0.3"));   // 0.25 in either rounding
-    EXPECT_EQ(0, CountText(calls, "0.8"));
-    EXPECT_EQ(2, CountText(calls, "0.5"));
+    const int an[5] = { r.bottom, r.bottom - L / 2 - L + L / 2, (r.top + r.bottom) / 2, r.top - L / 2 + L + L / 2,
+                        r.top };
+    SetTable(p, 0, 4, ad, an);
+    SetTable(p, 1, 4, ad, an);
+    const std::vector<TextCall> calls = Labels(p);
+    EXPECT_EQ(0, CountText(calls, "0.2") + CountText(calls, "0.3") + CountText(calls, "0.8"));
     // The right axis writes its middle numbers at right + 2, unmeasured.
-    int nRightMid = 0;
-    for (const TextCall& c : calls)
-        nRightMid += c.text == "0.5" && c.x == r.right + 2;
-    EXPECT_EQ(1, nRightMid);
+    ASSERT_EQ(2, CountText(calls, "0.5"));
+    EXPECT_EQ(1, (int)std::count_if(calls.begin(), calls.end(),
+                                    [&](const TextCall& c) { return c.text == "0.5" && c.x == r.right + 2; }));
 }
 
 TEST(AxisText, FloatingYNumbersRunDownwardAndCompareWithTheTicBelow)
 {
-    // Tics 0, 0.1, 0.14, 0.3 with one decimal, tried from tic 2 down: tic 2
-    // reads "0.1", which lies on tic 1 rather than near 0.14, and is dropped;
-    // tic 1 then shows "0.1" at its own place.
-    GraphOnCanvas g(400, 400);
+    CanvasGraph g(400, 400);
     CGraphPrv* p = g.Prv();
     p->SetYAxisNumFmt(0, "%.1f");
     const CRect r = p->m_rectPlot;
+    const int L = LineOf(g);
+    // Tics 0, 0.1, 0.14, 0.3, tried from tic 2 down: tic 2 reads "0.1",
+    // which lies on tic 1 rather than near 0.14, and is dropped; tic 1 then
+    // shows "0.1" at its own place.
     const double ad[4] = { 0.0, 0.1, 0.14, 0.3 };
     const int an[4] = { r.bottom, r.bottom - r.Height() / 3, r.bottom - 2 * r.Height() / 3, r.top };
-    SetYTable(p, 0, 3, ad, an);
-    std::vector<TextCall> calls = Labels(g);
-    ASSERT_EQ(1, CountText(calls, "0.1"));
-    EXPECT_EQ(an[1] - Measure(g).nLine / 2, FindCall(calls, "0.1")->y);
+    SetTable(p, 0, 3, ad, an);
+    std::vector<TextCall> calls = Labels(p);
     EXPECT_EQ(3u, calls.size());
+    EXPECT_EQ(1, CountText(calls, "0.1"));
+    EXPECT_EQ(an[1] - L / 2, Where(calls, "0.1").y);
 
     // Tics 0, 0.05, 0.10000051, 0.15000051, 0.2: tic 3 reads "0.2", the top
     // end's text; tic 2 shows "0.1"; tic 1 reads "0.1" as well, the text
     // last drawn, and is dropped.
     const double ad2[5] = { 0.0, 0.05, 0.10000051, 0.15000051, 0.2 };
-    const int an2[5] = { r.bottom, r.bottom - r.Height() / 4, r.bottom - r.Height() / 2,
-                         r.bottom - 3 * r.Height() / 4, r.top };
-    SetYTable(p, 0, 4, ad2, an2);
-    calls = Labels(g);
-    ASSERT_EQ(1, CountText(calls, "0.1"));
-    EXPECT_EQ(an2[2] - Measure(g).nLine / 2, FindCall(calls, "0.1")->y);
-    EXPECT_EQ(1, CountText(calls, "0.2"));
+    const int an2[5] = { r.bottom, r.bottom - r.Height() / 4, r.bottom - r.Height() / 2, r.bottom - 3 * r.Height() / 4,
+                         r.top };
+    SetTable(p, 0, 4, ad2, an2);
+    calls = Labels(p);
     EXPECT_EQ(3u, calls.size());
-}
-
-// ---------------------------------------------------------------------------
-// Locale
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, CommaLocaleWritesCommasAndKeepsTheDropRules)
-{
-    ThreadLocale locale(MAKELCID(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN), SORT_DEFAULT));
-    char szDecimal[8];
-    ASSERT_GT(::GetLocaleInfoA(::GetThreadLocale(), LOCALE_SDECIMAL, szDecimal, sizeof(szDecimal)), 0);
-    ASSERT_STREQ(",", szDecimal);
-
-    GraphOnCanvas g(500, 300);
-    CGraphPrv* p = g.Prv();
-    p->SetXAxisNumFmt("%.1f");
-    const CRect r = p->m_rectPlot;
-    // The slide test reads the plain text back ("0.1" -> 0.1): with the
-    // comma text it would read 0 and drop every middle number.
-    const double ad[5] = { 0.0, 0.05, 0.10000051, 0.15000051, 0.2 };
-    const int an[5] = { r.left, r.left + r.Width() / 4, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4, r.right };
-    SetXTable(p, 4, ad, an);
-    std::vector<TextCall> calls = Labels(g);
-    EXPECT_EQ(1, CountText(calls, "0,0"));
-    EXPECT_EQ(1, CountText(calls, "0,2"));   // the end; tic 3 dropped as equal localised text
-    ASSERT_EQ(1, CountText(calls, "0,1"));
-    EXPECT_EQ(an[2] - LabelWidth(g, "0,1") / 2, FindCall(calls, "0,1")->x);
-    EXPECT_EQ(3u, calls.size());
-    for (const TextCall& c : calls)
-        EXPECT_EQ(std::string::npos, c.text.find('.')) << c.text;
+    EXPECT_EQ(1, CountText(calls, "0.1"));
+    EXPECT_EQ(an2[2] - L / 2, Where(calls, "0.1").y);
 }
 
 // ---------------------------------------------------------------------------
@@ -524,87 +441,66 @@ TEST(AxisText, CommaLocaleWritesCommasAndKeepsTheDropRules)
 
 TEST(AxisText, TitlesAreCentredOnThePlot)
 {
-    GraphOnCanvas g(400, 300);
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
     p->SetGraphTitle("Graph title");
     p->SetXAxisLabel("Seconds");
-    std::vector<TextCall> calls = Labels(g);
-    const Measures m = Measure(g);
+    std::vector<TextCall> calls = Labels(p);
+    const int L = LineOf(g);
     const CRect r = p->m_rectPlot;
-    const TextCall* pTitle = FindCall(calls, "Graph title");
-    ASSERT_TRUE(pTitle != NULL);
-    EXPECT_EQ(r.left + (r.Width() - g.TextWidth("Graph title")) / 2, pTitle->x);
-    EXPECT_EQ(r.top - (3 * m.nLine) / 2, pTitle->y);
-    const TextCall* pX = FindCall(calls, "Seconds");
-    ASSERT_TRUE(pX != NULL);
-    EXPECT_EQ(r.left + (r.Width() - g.TextWidth("Seconds")) / 2, pX->x);
-    EXPECT_EQ(r.bottom + (3 * m.nLine) / 2, pX->y);
-
+    EXPECT_EQ(CPoint(r.left + (r.Width() - g.TextWidth("Graph title")) / 2, r.top - (3 * L) / 2),
+              Where(calls, "Graph title"));
+    EXPECT_EQ(CPoint(r.left + (r.Width() - g.TextWidth("Seconds")) / 2, r.bottom + (3 * L) / 2),
+              Where(calls, "Seconds"));
     // No room over the plot: no graph title.
     p->m_rectPlot.top = p->m_rectGraph.top;
-    calls = Labels(g);
-    EXPECT_TRUE(FindCall(calls, "Graph title") == NULL);
-    EXPECT_TRUE(FindCall(calls, "Seconds") != NULL);
-}
+    calls = Labels(p);
+    EXPECT_EQ(0, CountText(calls, "Graph title"));
+    EXPECT_EQ(1, CountText(calls, "Seconds"));
 
-TEST(AxisText, BeforeTheFirstLayoutOnlyTheXTitleIsWritten)
-{
-    TestHost host(200, 100);
-    CGraph graph;   // constructed, never created: both rectangles empty
+    // Before the first layout (both rectangles empty) only the X title.
+    CGraph graph;
     graph.SetGraphTitle("T");
     graph.SetXAxisLabel("X");
     graph.SetYAxisLabel(0, "L");
-    std::vector<TextCall> calls = RecordText([&](CDC* pDC) { graph.m_pGraphPrv->PutLabels(pDC); });
+    calls = Labels(graph.m_pGraphPrv);
     ASSERT_EQ(1u, calls.size());
     EXPECT_EQ("X", calls[0].text);
 }
 
 TEST(AxisText, TrueTypeAxisTitlesAreRotatedAndReadUpward)
 {
-    GraphOnCanvas g(400, 300);
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
-    const Measures m = Measure(g);
-    ASSERT_TRUE(m.tm.tmPitchAndFamily & TMPF_TRUETYPE);
+    const TEXTMETRIC tm = g.Metrics();
+    ASSERT_TRUE(tm.tmPitchAndFamily & TMPF_TRUETYPE);
+    const int L = LineOf(g);
     p->SetYAxisLabel(0, "Volts");
     p->SetYAxisLabel(1, "Amperes");
-    std::vector<TextCall> calls = Labels(g);
+    std::vector<TextCall> calls = Labels(p);
     const CRect r = p->m_rectPlot;
-    const TextCall* pLeft = FindCall(calls, "Volts");
-    ASSERT_TRUE(pLeft != NULL);
-    EXPECT_EQ(p->m_rectGraph.left + 1, pLeft->x);
-    EXPECT_EQ((r.top + r.bottom + m.tm.tmAveCharWidth * 4) / 2, pLeft->y);
-    const TextCall* pRight = FindCall(calls, "Amperes");
-    ASSERT_TRUE(pRight != NULL);
-    EXPECT_EQ(p->m_rectGraph.right - m.nLine - 1, pRight->x);
+    const CPoint ptLeft = Where(calls, "Volts");
+    EXPECT_EQ(CPoint(p->m_rectGraph.left + 1, (r.top + r.bottom + tm.tmAveCharWidth * 4) / 2), ptLeft);
+    EXPECT_EQ(p->m_rectGraph.right - L - 1, Where(calls, "Amperes").x);
 
     // On the pixels: the left title is a tall, narrow column above its start.
     p->PutLabels(g.DC());
-    int nMinX = 1000, nMaxX = -1, nMinY = 1000, nMaxY = -1;
+    CRect ink(1000, 1000, -1, -1);
     for (int y = 0; y < 300; y++)
         for (int x = 0; x < r.left - 1; x++)
-            if (g.m_canvas.At(x, y) != 0xFFFFFF) {
-                nMinX = std::min(nMinX, x);
-                nMaxX = std::max(nMaxX, x);
-                nMinY = std::min(nMinY, y);
-                nMaxY = std::max(nMaxY, y);
-            }
-    ASSERT_GE(nMaxX, nMinX);
-    EXPECT_GT(nMaxY - nMinY, 2 * (nMaxX - nMinX));
-    EXPECT_LE(nMaxY, pLeft->y);
-    EXPECT_GE(nMinX, 1);
-    EXPECT_LE(nMaxX, 1 + m.nLine);
-}
+            if (g.m_dib.At(x, y) != WHITE)
+                ink.SetRect(std::min((int)ink.left, x), std::min((int)ink.top, y), std::max((int)ink.right, x),
+                            std::max((int)ink.bottom, y));
+    ASSERT_GE(ink.right, ink.left);
+    EXPECT_GT(ink.Height(), 2 * ink.Width());
+    EXPECT_LE(ink.bottom, ptLeft.y);
+    EXPECT_GE(ink.left, 1);
+    EXPECT_LE(ink.right, 1 + L);
 
-TEST(AxisText, RotatedTitleTooLongForThePlotStartsAtItsBottom)
-{
-    GraphOnCanvas g(400, 120);
-    CGraphPrv* p = g.Prv();
-    CString str('W', 80);
-    p->SetYAxisLabel(0, str);
-    std::vector<TextCall> calls = Labels(g);
-    const TextCall* pCall = FindCall(calls, (LPCSTR)str);
-    ASSERT_TRUE(pCall != NULL);
-    EXPECT_EQ(p->m_rectPlot.bottom, pCall->y);
+    // Too long for the plot: it starts at the plot's bottom.
+    const CString strLong('W', 80);
+    p->SetYAxisLabel(0, strLong);
+    EXPECT_EQ(r.bottom, Where(Labels(p), (LPCSTR)strLong).y);
 }
 
 TEST(AxisText, RasterFontTitlesAreStackedWithDoubleByteCharactersWhole)
@@ -616,7 +512,7 @@ TEST(AxisText, RasterFontTitlesAreStackedWithDoubleByteCharactersWhole)
     const char* pszFont = "Z:\\usr\\share\\wine\\fonts\\sserife.fon";
     if (::AddFontResourceExA(pszFont, FR_PRIVATE, 0) == 0)
         GTEST_SKIP() << "no bitmap font here";
-    GraphOnCanvas g(400, 300);
+    CanvasGraph g;
     CGraphPrv* p = g.Prv();
     LOGFONT lf;
     memset(&lf, 0, sizeof(lf));
@@ -625,42 +521,29 @@ TEST(AxisText, RasterFontTitlesAreStackedWithDoubleByteCharactersWhole)
     strcpy(lf.lfFaceName, "MS Sans Serif");
     ASSERT_EQ(1, p->SetLogFont(&lf, 80, 0));
     g.Layout();
-    const Measures m = Measure(g);
-    ASSERT_FALSE(m.tm.tmPitchAndFamily & TMPF_TRUETYPE);
+    ASSERT_FALSE(g.Metrics().tmPitchAndFamily & TMPF_TRUETYPE);
+    const int L = LineOf(g);
 
     // "A", a double-byte character of the code page, "B": three units, the
     // length counted in bytes (4).
-    const CString strTitle = CString("A") + strWide + "B";
-    ASSERT_EQ(4, strTitle.GetLength());
-    p->SetYAxisLabel(0, strTitle);
+    p->SetYAxisLabel(0, CString("A") + strWide + "B");
     p->SetYAxisLabel(1, "RS");
-    std::vector<TextCall> calls = Labels(g);
+    std::vector<TextCall> calls = Labels(p);
     const CRect r = p->m_rectPlot;
-    const int y0 = (r.top + r.bottom - m.nLine * (4 + 1)) / 2;
-    std::vector<const TextCall*> left;
+    const int y0 = (r.top + r.bottom - L * (4 + 1)) / 2;
+    std::vector<std::string> left;
     for (const TextCall& c : calls)
         if (c.x == p->m_rectGraph.left + 1)
-            left.push_back(&c);
-    ASSERT_EQ(3u, left.size());
-    EXPECT_EQ("A", left[0]->text);
-    EXPECT_EQ(std::string((LPCSTR)AnsiOf(L"\u4E2D")), left[1]->text);
-    EXPECT_EQ("B", left[2]->text);
-    for (int i = 0; i < 3; i++)
-        EXPECT_EQ(y0 + i * m.nLine, left[i]->y) << i;
+            left.push_back(Str("%s@%d", c.text.c_str(), c.y));
+    const std::vector<std::string> expected = { Str("A@%d", y0), Str("%s@%d", (LPCSTR)strWide, y0 + L),
+                                                Str("B@%d", y0 + 2 * L) };
+    EXPECT_EQ(expected, left);
     // The right title stands one widest character in from the right side.
-    const TextCall* pR = FindCall(calls, "R");
-    ASSERT_TRUE(pR != NULL);
-    EXPECT_EQ(p->m_rectGraph.right - m.tm.tmMaxCharWidth - 1, pR->x);
-    const TextCall* pS = FindCall(calls, "S");
-    ASSERT_TRUE(pS != NULL);
-    EXPECT_EQ(pR->y + m.nLine, pS->y);
-
+    EXPECT_EQ(p->m_rectGraph.right - g.Metrics().tmMaxCharWidth - 1, Where(calls, "R").x);
+    EXPECT_EQ(Where(calls, "R").y + L, Where(calls, "S").y);
     // Too long for the plot: the stack starts at the top of the plot.
     p->SetYAxisLabel(0, CString('Q', 60));
-    calls = Labels(g);
-    const TextCall* pQ = FindCall(calls, "Q");
-    ASSERT_TRUE(pQ != NULL);
-    EXPECT_EQ(r.top, pQ->y);
+    EXPECT_EQ(r.top, Where(Labels(p), "Q").y);
     ::RemoveFontResourceExA(pszFont, FR_PRIVATE, 0);
 }
 
@@ -670,30 +553,28 @@ TEST(AxisText, RasterFontTitlesAreStackedWithDoubleByteCharactersWhole)
 
 TEST(AxisText, TicExtensionsStandUnderDrawnNumbers)
 {
-    GraphOnCanvas g(500, 300);
+    CanvasGraph g(500, 300);
     CGraphPrv* p = g.Prv();
+    const COLORREF crGrid = 0x0000C0;
     p->SetXAxisNumFmt("%.1f");
     p->m_nMinorTics = 1;
     p->m_dwGridType = 0x18;
-    p->m_crGrid = 0x0000C0;
+    p->m_crGrid = crGrid;
     const CRect r = p->m_rectPlot;
-    const Measures m = Measure(g);
-    const int nTicOut = m.tm.tmHeight / 4 + 1;
+    const int nTicOut = g.Metrics().tmHeight / 4 + 1;
     // Tic 1 next to the left end: its number is dropped, and with it its
     // extension. Tics 2 and 3 keep theirs.
     const double ad[5] = { 0.0, 0.2, 0.5, 0.7, 1.0 };
     const int an[5] = { r.left, r.left + 2, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4, r.right };
-    SetXTable(p, 4, ad, an);
+    SetTable(p, X, 4, ad, an);
     p->PutLabels(g.DC());
-    DibCanvas& c = g.m_canvas;
-    EXPECT_EQ(nTicOut, c.Count(an[2], r.bottom, an[2] + 1, r.bottom + 20, 0x0000C0));
-    EXPECT_EQ(0x0000C0u, c.At(an[2], r.bottom + nTicOut - 1));
-    EXPECT_EQ(nTicOut, c.Count(an[3], r.bottom, an[3] + 1, r.bottom + 20, 0x0000C0));
-    EXPECT_EQ(0, c.Count(an[1], r.bottom, an[1] + 1, r.bottom + 20, 0x0000C0));
-
+    EXPECT_EQ(nTicOut, g.m_dib.Count(an[2], r.bottom, an[2] + 1, r.bottom + 20, crGrid));
+    EXPECT_EQ(crGrid, g.m_dib.At(an[2], r.bottom + nTicOut - 1));
+    EXPECT_EQ(nTicOut, g.m_dib.Count(an[3], r.bottom, an[3] + 1, r.bottom + 20, crGrid));
+    EXPECT_EQ(0, g.m_dib.Count(an[1], r.bottom, an[1] + 1, r.bottom + 20, crGrid));
     // No grid: no extensions at all.
-    c.Fill(0xFFFFFF);
+    g.m_dib.Fill(WHITE);
     p->m_dwGridType = 0x01;
     p->PutLabels(g.DC());
-    EXPECT_EQ(0, c.Count(0, 0, 500, 300, 0x0000C0));
+    EXPECT_EQ(0, g.m_dib.CountAll(crGrid));
 }
