@@ -421,6 +421,28 @@ LRESULT CWnd::Default()
     return DefWindowProc(t_lastSentMsg.message, t_lastSentMsg.wParam, t_lastSentMsg.lParam);
 }
 
+UINT PASCAL CWnd::MapCtlColor(UINT message, UINT* pnCtlColor)
+{
+    // All the WM_CTLCOLOR* messages go to one handler with the kind as argument.
+    if (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) {
+        *pnCtlColor = message - WM_CTLCOLORMSGBOX;
+        return WM_CTLCOLOR;
+    }
+    *pnCtlColor = 0;
+    return message;
+}
+
+const AFX_MSGMAP_ENTRY* CWnd::FindWindowEntry(UINT nMsg) const
+{
+    for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap != NULL;
+         pMap = pMap->pfnGetBaseMap != NULL ? pMap->pfnGetBaseMap() : NULL) {
+        const AFX_MSGMAP_ENTRY* lpEntry = FindMessageEntry(pMap->lpEntries, nMsg, 0, 0);
+        if (lpEntry != NULL)
+            return lpEntry;
+    }
+    return NULL;
+}
+
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT lResult = 0;
@@ -440,18 +462,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         return FALSE;
     }
 
-    // All the WM_CTLCOLOR* messages go to one handler with the kind as argument.
-    UINT nMsg = message;
     UINT nCtlColor = 0;
-    if (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) {
-        nMsg = WM_CTLCOLOR;
-        nCtlColor = message - WM_CTLCOLORMSGBOX;
-    }
-
-    const AFX_MSGMAP_ENTRY* lpEntry = NULL;
-    for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap != NULL && lpEntry == NULL;
-         pMap = pMap->pfnGetBaseMap != NULL ? pMap->pfnGetBaseMap() : NULL)
-        lpEntry = FindMessageEntry(pMap->lpEntries, nMsg, 0, 0);
+    const UINT nMsg = MapCtlColor(message, &nCtlColor);
+    const AFX_MSGMAP_ENTRY* lpEntry = FindWindowEntry(nMsg);
     if (lpEntry == NULL) {
         // Owner-drawn lists sort and free their items themselves.
         if (message == WM_COMPAREITEM)
@@ -597,16 +610,9 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
         notify.pNMHDR = pNMHDR;
         bHandled = OnCmdMsg(0, MAKELONG(pNMHDR->code, WM_REFLECT_BASE + WM_NOTIFY), &notify, NULL);
     } else {
-        UINT nMsg = message;
         UINT nCtlColor = 0;
-        if (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) {
-            nMsg = WM_CTLCOLOR;
-            nCtlColor = message - WM_CTLCOLORMSGBOX;
-        }
-        const AFX_MSGMAP_ENTRY* lpEntry = NULL;
-        for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap != NULL && lpEntry == NULL;
-             pMap = pMap->pfnGetBaseMap != NULL ? pMap->pfnGetBaseMap() : NULL)
-            lpEntry = FindMessageEntry(pMap->lpEntries, nMsg + WM_REFLECT_BASE, 0, 0);
+        const UINT nMsg = MapCtlColor(message, &nCtlColor);
+        const AFX_MSGMAP_ENTRY* lpEntry = FindWindowEntry(nMsg + WM_REFLECT_BASE);
         if (lpEntry != NULL && lpEntry->nSig == AfxSig_hDw) {
             CDC dc;
             dc.Attach((HDC)wParam);

@@ -331,6 +331,10 @@ protected:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = NULL);
+    // The first entry of this window's maps for a window message.
+    const AFX_MSGMAP_ENTRY* FindWindowEntry(UINT nMsg) const;
+    // WM_CTLCOLOR for every WM_CTLCOLOR* message, with its kind; others unchanged.
+    static UINT PASCAL MapCtlColor(UINT message, UINT* pnCtlColor);
 
     WNDPROC m_pfnSuper;   // the procedure behind this object's map
 
