@@ -5,6 +5,8 @@
 
 #include "TestUtil.h"
 #include "render/HighlightRegionData.h"
+#include <algorithm>
+#include <climits>
 #include <vector>
 
 // Colours no drawer would make up by itself.
@@ -79,6 +81,20 @@ public:
             for (int x = 0; x < m_nWidth; x++)
                 n += (x < r.left || x > r.right || y < r.top || y > r.bottom) && At(x, y) != cr;
         return n;
+    }
+
+    // Inclusive box of the pixels whose colour passes test, in the inclusive
+    // rectangle r cut to the bitmap (by default the whole bitmap); the empty
+    // (INT_MAX, INT_MAX, INT_MIN, INT_MIN) when none does.
+    template <class Test> CRect Box(Test test, const CRect& r = CRect(0, 0, INT_MAX, INT_MAX)) const
+    {
+        CRect box(INT_MAX, INT_MAX, INT_MIN, INT_MIN);
+        for (int y = std::max(0, (int)r.top); y <= std::min(m_nHeight - 1, (int)r.bottom); y++)
+            for (int x = std::max(0, (int)r.left); x <= std::min(m_nWidth - 1, (int)r.right); x++)
+                if (test(At(x, y)))
+                    box.SetRect(std::min((int)box.left, x), std::min((int)box.top, y), std::max((int)box.right, x),
+                                std::max((int)box.bottom, y));
+        return box;
     }
 
     const int m_nWidth, m_nHeight;

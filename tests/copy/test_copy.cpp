@@ -1,6 +1,6 @@
 // Copying graphs: the windowless drawing copy made by assignment, and
 // CopyAppearance, which goes through the destination's own setters.
-#include "TestUtil.h"
+#include "Surface.h"
 #include "render/RefLineData.h"
 
 namespace {
@@ -27,7 +27,7 @@ struct CopyTest : testing::Test {
     {
         CClientDC screen(NULL);
         src.g.SetXAxisLimits(0, 260); src.g.SetYAxisLimits(100, 0, 1); src.g.SetTicMarkType(1, 1, &screen);
-        src.g.SetBackgroundColor(0xC8FFFF); src.g.SetGridAttributes(1, 0x0000C8, 0); src.g.SetRadarPercent(1, 2);
+        src.g.SetBackgroundColor(BACKGROUND); src.g.SetGridAttributes(1, FRAME, 0); src.g.SetRadarPercent(1, 2);
         src.g.AddReferenceLine("A", 1, 2.0); src.g.AddReferenceLine("B", 0, 0.5); src.g.AddReferenceLine("C", 1, 0.25);
         src.g.AddPlotData("s1", PLOT_YLEFT, g_afX, g_afY, 3, 0xFF, 0, 0); src.g.AddPlotData("s2", PLOT_YLEFT, g_afX, g_afY, 3, 0xFF, 0, 0);
         dst.g.SetTicMarkType(1, 1, &screen); dst.g.SetGraphTitle("D"); dst.g.AddReferenceLine("A", 0, 5.0);
@@ -39,18 +39,8 @@ struct CopyTest : testing::Test {
     {
         EXPECT_TRUE(d->m_mapRefLines.GetCount() == 4 && LinePos(d, "A") == 2.0 && LinePos(d, "D") == 0.75);
         EXPECT_TRUE(d->m_mapPlotData.GetCount() == 1 && FindSeries(d, "own") && s->m_mapPlotData.GetCount() == 2);
-        EXPECT_TRUE(d->m_crBackground == 0xC8FFFF && d->m_crGrid == 0x0000C8 && d->m_dRadarYPercent == 2);
+        EXPECT_TRUE(d->m_crBackground == BACKGROUND && d->m_crGrid == FRAME && d->m_dRadarYPercent == 2);
     }
-};
-
-// A memory context on a 32-bit top-down DIB section of 420 x 320 (black).
-struct Dib {
-    BITMAPINFO bmi = {{sizeof(BITMAPINFOHEADER), 420, -320, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {{0, 0, 0, 0}}};
-    CDC dc; DWORD* p = NULL; HBITMAP hbm; HGDIOBJ hOld;   // in this order: hbm needs bmi and p
-    Dib() : hbm(::CreateDIBSection(NULL, &bmi, DIB_RGB_COLORS, (void**)&p, NULL, 0))
-        { dc.CreateCompatibleDC(NULL); hOld = ::SelectObject(dc.m_hDC, hbm); }
-    ~Dib() { ::SelectObject(dc.m_hDC, hOld); ::DeleteObject(hbm); }
-    DWORD At(int x, int y) { ::GdiFlush(); return p[y * 420 + x]; }   // 0x00RRGGBB
 };
 
 } // namespace
@@ -67,15 +57,14 @@ TEST_F(CopyTest, AssignmentMakesAWindowlessDrawingCopy)
 
     // A copy that was never created draws the source's frame before any SizeGraph.
     CGraph copy;
-    Dib dib;
+    Dib dib(420, 320, BLACK);
     copy = src.g;
-    ASSERT_EQ(GRAPH_OK, copy.Plot(&dib.dc, 0));
-    const CRect r = s->m_rectPlot;
-    int nOff = 0;
-    for (int x = r.left; x <= r.right; x++) nOff += (dib.At(x, r.top) != 0xC80000) + (dib.At(x, r.bottom) != 0xC80000);
-    for (int y = r.top; y <= r.bottom; y++) nOff += (dib.At(r.left, y) != 0xC80000) + (dib.At(r.right, y) != 0xC80000);
-    EXPECT_EQ(0, nOff);
-    EXPECT_EQ(0xFFFFC8u, dib.At((s->m_nXTicPixel[1] + s->m_nXTicPixel[2]) / 2, (r.top + r.bottom) / 2));
+    ASSERT_EQ(GRAPH_OK, copy.Plot(dib.DC(), 0));
+    const CRect r = s->m_rectPlot;   // no pixel of its four sides in another colour
+    auto off = [&](int x1, int y1, int x2, int y2) { return dib.Count(x1, y1, x2 + 1, y2 + 1, FRAME, true); };
+    EXPECT_EQ(0, off(r.left, r.top, r.right, r.top) + off(r.left, r.bottom, r.right, r.bottom) +
+                 off(r.left, r.top, r.left, r.bottom) + off(r.right, r.top, r.right, r.bottom));
+    EXPECT_EQ(BACKGROUND, dib.At((s->m_nXTicPixel[1] + s->m_nXTicPixel[2]) / 2, (r.top + r.bottom) / 2));
 }
 
 TEST_F(CopyTest, CopyAppearanceGivesAllAxesTheXTicType)

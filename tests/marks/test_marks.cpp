@@ -1,75 +1,47 @@
 // Annotation marks and point labels: each mark drawn into a DIB section and
 // measured against its geometry, the marks and remembered labels of a series
 // through Plot, the label operations, and the marks stamped on the window.
-#include "TestUtil.h"
+#include "Surface.h"
 #include "render/AnnotationMark.h"
-#include <algorithm>
 
 namespace {
 
-const COLORREF WHITE = RGB(255, 255, 255), BLACK = 0, PEN = RGB(200, 0, 0), FILL = RGB(0, 0, 200);
-const COLORREF LINE = RGB(0, 160, 0), BLUE = RGB(0, 0, 255), OTHER = RGB(255, 0, 255);
+const COLORREF PEN = RGB(200, 0, 0), FILL = RGB(0, 0, 200), LINE = RGB(0, 160, 0);
 
 bool NotWhite(COLORREF c) { return c != WHITE; }
 bool NotGrey(COLORREF c) { return GetRValue(c) != GetGValue(c) || GetGValue(c) != GetBValue(c); }
 
 // A windowless graph laid out on a white 300 x 200 DIB section of 32 bits:
 // X and Y from 0 to 10, black frame, white background.
-class Canvas
+class Canvas : public CanvasGraph
 {
 public:
-    Canvas() : m_host(200, 100)
+    Canvas() : CanvasGraph(300, 200)
     {
-        BITMAPINFO bmi = { { sizeof(BITMAPINFOHEADER), 300, -200, 1, 32, BI_RGB, 0, 0, 0, 0, 0 }, {} };
-        m_dc.CreateCompatibleDC(NULL);
-        m_hOld = ::SelectObject(m_dc.m_hDC, ::CreateDIBSection(NULL, &bmi, DIB_RGB_COLORS, (void**)&m_pBits, NULL, 0));
-        CRect rect(0, 0, 300, 200);
-        m_graph.CreateGraph(m_host.Wnd(), NULL, rect, GS_NOWINDOW, 1, 63);
-        m_graph.SizeGraph(&m_dc, 0, 0, 300, 200, 0);
         m_graph.SetXAxisLimits(0.0, 10.0);
         m_graph.SetYAxisLimits(0.0, 10.0, 0);
         m_graph.GetPlotRect(m_rectPlot);
-        Clear();
     }
-    ~Canvas() { m_graph.RemoveAllPlotData(), ::DeleteObject(::SelectObject(m_dc.m_hDC, m_hOld)); }
-    void Clear() { m_dc.SelectClipRgn(NULL), ::GdiFlush(), std::fill(m_pBits, m_pBits + 300 * 200, 0xFFFFFFu); }
-    int Plot() { return Clear(), m_graph.Plot(&m_dc, 0); }
+    void Clear() { DC()->SelectClipRgn(NULL), m_dib.Fill(WHITE); }
+    int Plot() { return Clear(), CanvasGraph::Plot(); }
     CPoint Px(double x, double y) { return CPoint(m_graph.DataToPixelX(x), m_graph.DataToPixelY(y, 0)); }
-    COLORREF At(LONG x, LONG y)
-    {
-        const DWORD dw = (::GdiFlush(), m_pBits[y * 300 + x]);
-        return RGB((dw >> 16) & 0xFF, (dw >> 8) & 0xFF, dw & 0xFF);
-    }
+    COLORREF At(int x, int y) const { return m_dib.At(x, y); }
     COLORREF AtData(double x, double y) { return At(Px(x, y).x, Px(x, y).y); }
-    // Inclusive box of the pixels in r (inclusive) that pass the test.
-    CRect Box(CRect r = CRect(0, 0, 299, 199), bool (*pTest)(COLORREF) = NotWhite)
-    {
-        CRect box(INT_MAX, INT_MAX, INT_MIN, INT_MIN);
-        for (int y = std::max(0L, r.top); y <= std::min(199L, r.bottom); y++)
-            for (int x = std::max(0L, r.left); x <= std::min(299L, r.right); x++)
-                if (pTest(At(x, y)))
-                    box.SetRect(std::min((int)box.left, x), std::min((int)box.top, y), std::max((int)box.right, x),
-                                std::max((int)box.bottom, y));
-        return box;
-    }
+    // Box of the pixels unlike white in r (inclusive; the whole bitmap by default).
+    CRect Box(const CRect& r = CRect(0, 0, INT_MAX, INT_MAX)) const { return m_dib.Box(NotWhite, r); }
     // Metrics of the graph's mark font here, turned by nEscapement, and the width of "ABC" in it.
     TEXTMETRIC MarkMetrics(int nEscapement = 0, int* pnWidth = NULL)
     {
         CFont font;
-        m_graph.m_pGraphPrv->CreateMarkFont(font, &m_dc, nEscapement);
-        CSelectGuard select(&m_dc, &font);
+        Prv()->CreateMarkFont(font, DC(), nEscapement);
+        CSelectGuard select(DC(), &font);
         TEXTMETRIC tm;
-        m_dc.GetTextMetrics(&tm);
+        DC()->GetTextMetrics(&tm);
         if (pnWidth != NULL)
-            *pnWidth = m_dc.GetTextExtent(CString("ABC")).cx;
+            *pnWidth = DC()->GetTextExtent(CString("ABC")).cx;
         return tm;
     }
 
-    TestHost m_host;
-    CDC m_dc;
-    DWORD* m_pBits;
-    HGDIOBJ m_hOld;
-    CGraph m_graph;
     CRect m_rectPlot;
 };
 
@@ -78,7 +50,7 @@ public:
 TEST(AnnotationMark, EachMarkHasItsGeometryAndLeavesTheContextAsItWas)
 {
     Canvas c;
-    CDC* pDC = &c.m_dc;
+    CDC* pDC = c.DC();
     // A font whose cells are 16 pixels high, whatever the face makes of the request.
     CFont font;
     TEXTMETRIC tm = {};
@@ -120,7 +92,7 @@ TEST(AnnotationMark, SeriesMarksComeWithEveryPointInTheLineColourAndAreClippedAt
     Canvas c;
     float x[] = { 2, 4, 6, 10 }, y[] = { 5, 5, 5, 5 };
     ASSERT_EQ(1, c.m_graph.AddPlotData("s", PLOT_YLEFT, x, y, 4, LINE, 5, 3));   // no line, squares
-    c.m_graph.SetPlotDataAttributes("s", LINE, 5, 1, 3, OTHER);             // the labels' colour is not used
+    c.m_graph.SetPlotDataAttributes("s", LINE, 5, 1, 3, MAGENTA);           // the labels' colour is not used
     const int q = c.MarkMetrics().tmHeight / 4;
     ASSERT_EQ(1, c.Plot());
     for (int i = 0; i < 3; i++) {
@@ -175,13 +147,13 @@ TEST(PointLabels, TextStandsAboveTheMarkOrBelowAnUpwardArrow)
     int nWidth;
     const TEXTMETRIC tm = c.MarkMetrics(900, &nWidth);
     ASSERT_TRUE(tm.tmPitchAndFamily & TMPF_TRUETYPE);
-    ASSERT_EQ(96, c.m_dc.GetDeviceCaps(LOGPIXELSY));   // the gap of marks 1 to 7 is 3 pixels
+    ASSERT_EQ(96, c.DC()->GetDeviceCaps(LOGPIXELSY));   // the gap of marks 1 to 7 is 3 pixels
     const int nLine = tm.tmHeight + tm.tmExternalLeading, nAve = tm.tmAveCharWidth;
     const int h = c.MarkMetrics().tmHeight, q = h / 4;
     const CPoint p = c.Px(5, 5);
     for (int nMark : { 1, 8, 9 }) {
         c.Clear();
-        EXPECT_EQ(1, c.m_graph.LabelPoint(5, 5, 0, BLUE, nMark, "ABC", &c.m_dc));
+        EXPECT_EQ(1, c.m_graph.LabelPoint(5, 5, 0, BLUE, nMark, "ABC", c.DC()));
         // The text's lower end; its box in the rows past the arrow's shaft or above the mark.
         const int yText = nMark == 8 ? p.y + nWidth + nLine + nAve : p.y - ((nMark == 9 ? nLine : 3) + nAve);
         const CRect text = c.Box(nMark == 8 ? CRect(0, p.y + h, 299, 199) : CRect(0, 0, 299, nMark == 9 ? p.y - h : p.y - q - 1));
@@ -189,13 +161,13 @@ TEST(PointLabels, TextStandsAboveTheMarkOrBelowAnUpwardArrow)
         EXPECT_TRUE(text.bottom <= yText + 1 && text.bottom >= yText - 3) << nMark << " " << text.bottom - yText;
         EXPECT_TRUE(text.top >= yText - nWidth - 1 && text.Height() > nWidth / 2) << nMark;
         // The mark in the colour; text colour and the label clip stay; the background mode goes back.
-        EXPECT_TRUE(BLUE == c.At(p.x, p.y) && BLUE == c.m_dc.GetTextColor() && OPAQUE == c.m_dc.GetBkMode());
+        EXPECT_TRUE(BLUE == c.At(p.x, p.y) && BLUE == c.DC()->GetTextColor() && OPAQUE == c.DC()->GetBkMode());
         CRect clip;
-        c.m_dc.GetClipBox(&clip);
+        c.DC()->GetClipBox(&clip);
         EXPECT_EQ(CRect(c.m_rectPlot.left + 1, c.m_rectPlot.top + 1, c.m_rectPlot.right + 1, c.m_rectPlot.bottom + 1), clip);
     }
     c.Clear();   // an empty text: the mark alone
-    c.m_graph.LabelPoint(5, 5, 0, BLUE, 3, "", &c.m_dc);
+    c.m_graph.LabelPoint(5, 5, 0, BLUE, 3, "", c.DC());
     EXPECT_EQ(CRect(p.x - q, p.y - q, p.x + q, p.y + q), c.Box());
 }
 
@@ -205,13 +177,13 @@ TEST(PointLabels, ABlackAndWhiteContextDrawsMarksAndLabelsInBlack)
     float x[] = { 3 }, y[] = { 3 };
     c.m_graph.AddPlotData("s", PLOT_YLEFT, x, y, 1, LINE, 5, 2);
     c.m_graph.AddPlotDataLabel("s", "a", 7, 3, 3, "Label");
-    c.m_dc.SetPrinting(TRUE);
-    ::SetPolyFillMode(c.m_dc.m_hDC, WINDING);
+    c.DC()->SetPrinting(TRUE);
+    ::SetPolyFillMode(c.DC()->m_hDC, WINDING);
     c.Plot();
-    c.m_dc.SetPrinting(FALSE);
+    c.DC()->SetPrinting(FALSE);
     EXPECT_TRUE(BLACK == c.AtData(3.0, 3.0) && BLACK == c.AtData(7.0, 3.0));
     EXPECT_GT(c.Box(c.m_rectPlot).Height(), 10);   // the text above the label's mark
-    EXPECT_TRUE(c.Box(CRect(0, 0, 299, 199), NotGrey).IsRectEmpty());
+    EXPECT_TRUE(c.m_dib.Box(NotGrey).IsRectEmpty());
 }
 
 TEST(AnnotationMark, WindowMarksComeAtOnceAndGoWithTheNextPaint)
@@ -237,9 +209,9 @@ TEST(AnnotationMark, WindowMarksComeAtOnceAndGoWithTheNextPaint)
     EXPECT_EQ(1, g.AnnotateLine(strName, 3, 3));
     for (int i = 0; i < 10; i++)
         EXPECT_EQ(i % 3 == 0 ? LINE : WHITE, pixel(i, 5)) << i;   // indices 0, 3, 6, 9
-    EXPECT_TRUE(1 == g.AnnotatePoint(4.5, 8, 0, OTHER, 2) && 1 == g.LabelPoint(2.5, 2, 0, BLUE, 3, "", NULL));
-    EXPECT_EQ(1, g.AnnotatePoint(50, 8, 0, OTHER, 2));   // outside: nothing, still 1
-    EXPECT_TRUE(OTHER == pixel(4.5, 8) && BLUE == pixel(2.5, 2));
+    EXPECT_TRUE(1 == g.AnnotatePoint(4.5, 8, 0, MAGENTA, 2) && 1 == g.LabelPoint(2.5, 2, 0, BLUE, 3, "", NULL));
+    EXPECT_EQ(1, g.AnnotatePoint(50, 8, 0, MAGENTA, 2));   // outside: nothing, still 1
+    EXPECT_TRUE(MAGENTA == pixel(4.5, 8) && BLUE == pixel(2.5, 2));
     g.Replot();
     ::UpdateWindow(g.m_pGraphPrv->m_hWnd);
     EXPECT_TRUE(WHITE == pixel(4.5, 8) && WHITE == pixel(3, 5));
