@@ -5,7 +5,7 @@
 # build at little cost.
 set -euo pipefail
 
-PACKAGES="cmake make g++-mingw-w64-x86-64 wine wine64 xvfb xauth fonts-wine fonts-wqy-zenhei googletest"
+PACKAGES="cmake make g++-mingw-w64-x86-64 wine wine64 xvfb xauth fonts-wine fonts-wqy-zenhei googletest procps"
 
 missing=""
 for p in $PACKAGES; do
