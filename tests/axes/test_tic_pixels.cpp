@@ -90,18 +90,6 @@ TEST(TicPixels, SpacingOfShortEnds)
     EXPECT_EQ(0, p->m_MinorYLeft.nSpacing);
 }
 
-TEST(TicPixels, NumberOfMinorTicMarks)
-{
-    GraphInHost g(GS_NOWINDOW);
-    // Below half an inch 1, up to one and a half inches 4, above that 9;
-    // half of an odd resolution rounds up.
-    const int cases[][3] = { { 0, 96, 1 },   { 47, 96, 1 },  { 48, 96, 4 }, { 144, 96, 4 },
-                             { 145, 96, 9 }, { 149, 300, 1 }, { 450, 300, 4 }, { 451, 300, 9 },
-                             { 0, 0, 4 },    { 1, 0, 9 },     { 48, 97, 1 },  { 49, 97, 4 } };
-    for (const int* c : cases)
-        EXPECT_EQ(c[2], g.Prv()->NumberOfMinorTicMarks(c[0], c[1])) << c[0] << " at " << c[1];
-}
-
 TEST(TicPixels, MinorOffsetsAt96Dpi)
 {
     GraphInHost g;

@@ -1,7 +1,7 @@
 // Coordinate transforms: data to pixels with the 0.50001 rounding, the
 // truncation toward zero and the bounds; the widening of equal limits; the
 // conversions back with the exact tic values; the whole-series transform and
-// its bounds on the float's bits; the plot rectangle test.
+// its bounds on the float's bits.
 #include "TestUtil.h"
 
 #include <math.h>
@@ -175,31 +175,4 @@ TEST(Transforms, XformPlotDataBoundsOnTheFloatsExponent)
     EXPECT_EQ(110, pts[0].y);   // 10 on -100..100: 120 - 10 + 0.50001
     EXPECT_EQ(101, pts[1].x);
     EXPECT_EQ(118, pts[1].y);
-}
-
-TEST(Transforms, IsPointInPlotRect)
-{
-    KnownPlot g;
-    CGraphPrv* p = g.Prv();
-    g.m_graph.SetYAxisLimits(0.0, 20.0, 1);
-    // Y: the bottom edge is out, the top edge in; X: the left edge is in,
-    // the right edge out; any other kind is outside.
-    const struct
-    {
-        double d;
-        int nKind;
-        bool bIn;
-    } values[] = { { 0.0, 0, false }, { 10.0, 0, true }, { 0.1, 0, true },  { 10.1, 0, false },
-                   { 20.0, 1, true }, { 10.0, 1, true }, { 0.0, 2, true },   { 100.0, 2, false },
-                   { 99.8, 2, true }, { -0.2, 2, false }, { 5.0, -1, false } };
-    for (const auto& c : values) {
-        double d = c.d;
-        EXPECT_EQ(c.bIn, p->IsPointInPlotRect(d, c.nKind) != 0) << c.d << " kind " << c.nKind;
-    }
-    const int pixels[][3] = { { 219, 0, 1 }, { 220, 1, 0 }, { 20, 1, 1 }, { 50, 2, 1 }, { 549, 2, 1 }, { 550, 2, 0 },
-                              { 100, 3, 0 } };
-    for (const int* c : pixels) {
-        int n = c[0];
-        EXPECT_EQ(c[2] != 0, p->IsPointInPlotRect(n, c[1]) != 0) << c[0] << " kind " << c[1];
-    }
 }

@@ -137,25 +137,6 @@ TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
     EXPECT_EQ("-1.23e+004", TextOf(edit.m_hWnd));
 }
 
-TEST(FloatEdit, DoubleByteCharacterIsRefusedOnceAndDigitsWorkAfterIt)
-{
-    const CString strWide = AnsiOf(L"\u4E2D");
-    if (strWide.GetLength() != 2 || !::IsDBCSLeadByte((BYTE)strWide[0]))
-        GTEST_SKIP() << "needs a double-byte code page";
-    CommandRecorder parent;
-    CFloatEdit edit(0);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 79));
-    Type(edit.m_hWnd, "1");
-    ::SendMessageA(edit.m_hWnd, WM_CHAR, (BYTE)strWide[0], 1);
-    EXPECT_EQ(1, edit.m_nCharBytes);   // held back, no notification yet
-    EXPECT_TRUE(parent.BadInput().empty());
-    ::SendMessageA(edit.m_hWnd, WM_CHAR, (BYTE)strWide[1], 1);
-    EXPECT_EQ(0, edit.m_nCharBytes);
-    Type(edit.m_hWnd, "23");
-    EXPECT_EQ("123", TextOf(edit.m_hWnd));
-    EXPECT_EQ(1u, parent.BadInput().size());
-}
-
 TEST(IntlEdit, ShowsAndReadsTheLocalesNotation)
 {
     CommandRecorder parent;

@@ -93,20 +93,6 @@ void MakeRuns(long n, std::vector<float>& x, std::vector<float>& y)
 
 } // namespace
 
-TEST(PointReduction, ConsecutiveDuplicatesAreDropped)
-{
-    PlotFixture f;
-    std::vector<float> x, y;
-    MakeRuns(5000, x, y);
-    CPlotData* pData = f.Add("runs", x, y, BLUE);
-    f.Prv()->OptimizePoints(pData);
-    Expected e = Reference(f.Prv(), pData);
-    ExpectMatches(e, pData);
-    // The data were made to repeat: most points go.
-    EXPECT_LT(pData->m_lPointCount, 2000);
-    EXPECT_GT(pData->m_lPointCount, 100);
-}
-
 TEST(PointReduction, AllPointsEqualLeaveOneEntryAndCollapseTheRegions)
 {
     PlotFixture f;

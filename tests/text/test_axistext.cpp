@@ -1,5 +1,5 @@
 // Axis text: titles, the numbers along the axes with their drop rules, the
-// limit rectangles, the locale's decimal sign, rotated and stacked titles.
+// limit rectangles, the locale's decimal sign, rotated titles.
 // What is written is read back from a metafile recording (text and
 // reference point), where it is drawn from the pixels of a DIB section.
 #include "Surface.h"
@@ -122,21 +122,6 @@ TEST(AxisText, FormatLabelSuitablyKeepsTenCharactersOrElevenBelowZero)
     p->FormatLabelSuitably(sz, "%299.1f", 1.0);
     EXPECT_EQ(255u, strlen(sz));
     EXPECT_EQ(std::string(sizeof(sz) - 256, 'Z'), std::string(sz + 256, sizeof(sz) - 256));
-}
-
-TEST(AxisText, GetLabelWExtentStripsLeadingBlanksInPlace)
-{
-    CanvasGraph g;
-    CGraphPrv* p = g.Prv();
-    CSelectGuard font(g.DC(), &p->m_font);
-    CString str = "   1.25";
-    int w = 0;
-    p->GetLabelWExtent(g.DC(), str, 0, &w);
-    EXPECT_STREQ("   1.25", str);
-    EXPECT_EQ(LabelWidth(g, "   1.25"), w);
-    p->GetLabelWExtent(g.DC(), str, 1, &w);
-    EXPECT_STREQ("1.25", str);
-    EXPECT_EQ(LabelWidth(g, "1.25"), w);
 }
 
 // ---------------------------------------------------------------------------
@@ -501,50 +486,6 @@ TEST(AxisText, TrueTypeAxisTitlesAreRotatedAndReadUpward)
     const CString strLong('W', 80);
     p->SetYAxisLabel(0, strLong);
     EXPECT_EQ(r.bottom, Where(Labels(p), (LPCSTR)strLong).y);
-}
-
-TEST(AxisText, RasterFontTitlesAreStackedWithDoubleByteCharactersWhole)
-{
-    const CString strWide = AnsiOf(L"\u4E2D");
-    if (strWide.GetLength() != 2 || !::IsDBCSLeadByte((BYTE)strWide[0]))
-        GTEST_SKIP() << "needs a double-byte code page";
-    // A bitmap font of the platform, made available to this process.
-    const char* pszFont = "Z:\\usr\\share\\wine\\fonts\\sserife.fon";
-    if (::AddFontResourceExA(pszFont, FR_PRIVATE, 0) == 0)
-        GTEST_SKIP() << "no bitmap font here";
-    CanvasGraph g;
-    CGraphPrv* p = g.Prv();
-    LOGFONT lf;
-    memset(&lf, 0, sizeof(lf));
-    lf.lfCharSet = ANSI_CHARSET;
-    lf.lfOutPrecision = OUT_RASTER_PRECIS;
-    strcpy(lf.lfFaceName, "MS Sans Serif");
-    ASSERT_EQ(1, p->SetLogFont(&lf, 80, 0));
-    g.Layout();
-    ASSERT_FALSE(g.Metrics().tmPitchAndFamily & TMPF_TRUETYPE);
-    const int L = LineOf(g);
-
-    // "A", a double-byte character of the code page, "B": three units, the
-    // length counted in bytes (4).
-    p->SetYAxisLabel(0, CString("A") + strWide + "B");
-    p->SetYAxisLabel(1, "RS");
-    std::vector<TextCall> calls = Labels(p);
-    const CRect r = p->m_rectPlot;
-    const int y0 = (r.top + r.bottom - L * (4 + 1)) / 2;
-    std::vector<std::string> left;
-    for (const TextCall& c : calls)
-        if (c.x == p->m_rectGraph.left + 1)
-            left.push_back(Str("%s@%d", c.text.c_str(), c.y));
-    const std::vector<std::string> expected = { Str("A@%d", y0), Str("%s@%d", (LPCSTR)strWide, y0 + L),
-                                                Str("B@%d", y0 + 2 * L) };
-    EXPECT_EQ(expected, left);
-    // The right title stands one widest character in from the right side.
-    EXPECT_EQ(p->m_rectGraph.right - g.Metrics().tmMaxCharWidth - 1, Where(calls, "R").x);
-    EXPECT_EQ(Where(calls, "R").y + L, Where(calls, "S").y);
-    // Too long for the plot: the stack starts at the top of the plot.
-    p->SetYAxisLabel(0, CString('Q', 60));
-    EXPECT_EQ(r.top, Where(Labels(p), "Q").y);
-    ::RemoveFontResourceExA(pszFont, FR_PRIVATE, 0);
 }
 
 // ---------------------------------------------------------------------------
