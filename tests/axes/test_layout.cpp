@@ -1,6 +1,6 @@
 // Layout: the plot rectangle of a new graph, of a window after ReSizeGraph
 // (with the too-low and too-narrow cases and the docked legend), of a memory
-// context after SizeGraph, and the smallest graph.
+// context and of a printer context after SizeGraph, and the smallest graph.
 // Every expectation comes from the metrics of the graph's font read here
 // from the same kind of context.
 #include "Surface.h"
@@ -75,6 +75,91 @@ public:
     using CGraphPrv::GetMaxLenString;
 };
 
+// A printer for the length of a test: Wine's PostScript driver with a small
+// description file of our own, added and removed through the spooler, which
+// is loaded at run time.
+class TemporaryPrinter
+{
+public:
+    TemporaryPrinter() : m_hSpool(::LoadLibraryA("winspool.drv")), m_hPrinter(NULL), m_bDriver(FALSE)
+    {
+        m_szPpd[0] = '\0';
+        auto pfnDir = (BOOL(WINAPI*)(LPSTR, LPSTR, DWORD, LPBYTE, DWORD, LPDWORD))Proc("GetPrinterDriverDirectoryA");
+        auto pfnAddDriver = (BOOL(WINAPI*)(LPSTR, DWORD, LPBYTE))Proc("AddPrinterDriverA");
+        auto pfnAddPrinter = (HANDLE(WINAPI*)(LPSTR, DWORD, LPBYTE))Proc("AddPrinterA");
+        char szDir[MAX_PATH];
+        DWORD cb = 0;
+        if (!pfnDir || !pfnAddDriver || !pfnAddPrinter || !pfnDir(NULL, NULL, 1, (LPBYTE)szDir, sizeof(szDir), &cb))
+            return;
+        ::CreateDirectoryA(szDir, NULL);
+        lstrcatA(szDir, "\\3");
+        ::CreateDirectoryA(szDir, NULL);
+        wsprintfA(m_szPpd, "%s\\zpxaxes.ppd", szDir);
+        static const char szPpd[] =
+            "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
+            "*LanguageEncoding: ISOLatin1\n*ModelName: \"ZPX Axes Test\"\n*NickName: \"ZPX Axes Test\"\n"
+            "*ShortNickName: \"ZPX Axes Test\"\n*LanguageLevel: \"2\"\n*ColorDevice: False\n"
+            "*DefaultColorSpace: Gray\n*DefaultResolution: 300dpi\n*OpenUI *PageSize: PickOne\n"
+            "*DefaultPageSize: A4\n*PageSize A4/A4: \"<</PageSize[595 842]>>setpagedevice\"\n"
+            "*CloseUI: *PageSize\n*DefaultImageableArea: A4\n*ImageableArea A4/A4: \"18 36 577 806\"\n"
+            "*DefaultPaperDimension: A4\n*PaperDimension A4/A4: \"595 842\"\n"
+            "*DefaultFont: Courier\n*Font Courier: Standard \"(001.000)\" Standard ROM\n";
+        HANDLE hFile = ::CreateFileA(m_szPpd, GENERIC_WRITE, 0, NULL, CREATE_ALWAYS, 0, NULL);
+        if (hFile == INVALID_HANDLE_VALUE)
+            return;
+        DWORD dwWritten = 0;
+        ::WriteFile(hFile, szPpd, sizeof(szPpd) - 1, &dwWritten, NULL);
+        ::CloseHandle(hFile);
+
+        DRIVER_INFO_3A di;
+        memset(&di, 0, sizeof(di));
+        di.cVersion = 3;
+        di.pName = (LPSTR)s_pszDriver;
+        di.pDriverPath = di.pConfigFile = (LPSTR)"wineps.drv";
+        di.pDataFile = m_szPpd;
+        m_bDriver = pfnAddDriver(NULL, 3, (LPBYTE)&di);
+        PRINTER_INFO_2A pi;
+        memset(&pi, 0, sizeof(pi));
+        pi.pPrinterName = (LPSTR)s_pszPrinter;
+        pi.pPortName = (LPSTR)"FILE:";
+        pi.pDriverName = (LPSTR)s_pszDriver;
+        pi.pPrintProcessor = (LPSTR)"WinPrint";
+        pi.pDatatype = (LPSTR)"RAW";
+        m_hPrinter = pfnAddPrinter(NULL, 2, (LPBYTE)&pi);
+        if (m_hPrinter != NULL)
+            m_dc.CreateDC("WINSPOOL", s_pszPrinter, NULL, NULL);
+    }
+    ~TemporaryPrinter()
+    {
+        m_dc.DeleteDC();
+        auto pfnDelete = (BOOL(WINAPI*)(HANDLE))Proc("DeletePrinter");
+        auto pfnClose = (BOOL(WINAPI*)(HANDLE))Proc("ClosePrinter");
+        auto pfnDeleteDriver = (BOOL(WINAPI*)(LPSTR, LPSTR, LPSTR))Proc("DeletePrinterDriverA");
+        if (m_hPrinter != NULL && pfnDelete && pfnClose) {
+            pfnDelete(m_hPrinter);
+            pfnClose(m_hPrinter);
+        }
+        if (m_bDriver && pfnDeleteDriver)
+            pfnDeleteDriver(NULL, NULL, (LPSTR)s_pszDriver);
+        if (m_szPpd[0] != '\0')
+            ::DeleteFileA(m_szPpd);
+        if (m_hSpool != NULL)
+            ::FreeLibrary(m_hSpool);
+    }
+
+    CDC m_dc;
+
+private:
+    void* Proc(const char* pszName) { return m_hSpool ? (void*)::GetProcAddress(m_hSpool, pszName) : NULL; }
+
+    static constexpr const char* s_pszDriver = "ZPX Axes Test Driver";
+    static constexpr const char* s_pszPrinter = "ZPX Axes Test Printer";
+    HMODULE m_hSpool;
+    HANDLE m_hPrinter;
+    BOOL m_bDriver;
+    char m_szPpd[MAX_PATH];
+};
+
 } // namespace
 
 TEST(Layout, MeasuringHelpers)
@@ -85,6 +170,7 @@ TEST(Layout, MeasuringHelpers)
     EXPECT_EQ(Fmt("%.3E", -10000.0), (LPCSTR)probe.GetMaxLenString());
     probe.m_strMaxLenFormat = "%.1f";
     EXPECT_STREQ("-10000.0", (LPCSTR)probe.GetMaxLenString());
+
 }
 
 TEST(Layout, FirstLayoutWithAndWithoutWindow)
@@ -237,6 +323,35 @@ TEST(Layout, SizeGraphOnMemoryContext)
     g.m_graph.SizeGraph(mem.DC(), 0, 0, 400, 300, 0);
     EXPECT_STREQ("%.2f", (LPCSTR)p->m_strLastXNumFmt);
     EXPECT_STREQ("%.1f", (LPCSTR)p->m_strLastYNumFmt);
+}
+
+TEST(Layout, SizeGraphAndMinimumSizeOnAPrinter)
+{
+    TemporaryPrinter printer;
+    if (printer.m_dc.m_hDC == NULL)
+        GTEST_SKIP() << "no printer context could be made here";
+    ASSERT_EQ(DT_RASPRINTER, printer.m_dc.GetDeviceCaps(TECHNOLOGY));
+    GraphInHost g(GS_NOWINDOW);
+    CGraphPrv* p = g.Prv();
+    const LONG lOldHeight = p->m_logFont.lfHeight;
+
+    // The font the graph is to use there: its point size at the printer's
+    // resolution, larger than on the screen.
+    LOGFONT lf = p->m_logFont;
+    lf.lfHeight = p->m_nPointSize;
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFontIndirect(&lf, &printer.m_dc));
+    const FontMeasures m = MeasureFont(printer.m_dc.m_hAttribDC, (HFONT)font.m_hObject);
+    EXPECT_GT(m.L, MeasureOn(NULL, p).L);
+
+    ASSERT_EQ(1, g.m_graph.SizeGraph(&printer.m_dc, 100, 200, 2400, 1800, 0));
+    EXPECT_EQ(CRect(100, 200, 2500, 2000), p->m_rectGraph);
+    ExpectPlot(p, ExpectedPlot(p->m_rectGraph, m, m.S));
+    int nMinWidth = 0, nMinHeight = 0;
+    ASSERT_EQ(1, g.m_graph.GetMinimumGraphSize(&printer.m_dc, &nMinWidth, &nMinHeight));
+    EXPECT_EQ((m.T ? m.S + m.L : m.S + m.O + m.M) + m.S / 2 + 3 * m.D, nMinWidth);
+    EXPECT_EQ(3 * m.L + ((5 * m.L) / 2 + 1) + (3 * m.L) / 2, nMinHeight);
+    EXPECT_EQ(lOldHeight, p->m_logFont.lfHeight);   // the screen font stays
 }
 
 TEST(Layout, GetMinimumGraphSize)
