@@ -113,3 +113,16 @@ public:
     CGraph m_graph;
     int m_nCreated;
 };
+
+#include <psapi.h>
+
+// Memory committed by this process. (Wine fills the basic counters only: the
+// private-usage field of the extended ones stays unset.)
+inline SIZE_T CommittedBytes()
+{
+    PROCESS_MEMORY_COUNTERS counters;
+    memset(&counters, 0, sizeof(counters));
+    counters.cb = sizeof(counters);
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
+    return counters.PagefileUsage;
+}

@@ -1,18 +1,9 @@
 // Resources over many lives of a graph: memory and GDI objects come back to
 // where they were after thousands of create/destroy cycles with series.
 #include "TestUtil.h"
-#include <psapi.h>
 #include <vector>
 
 namespace {
-
-SIZE_T PrivateBytes()
-{
-    PROCESS_MEMORY_COUNTERS_EX counters;
-    counters.cb = sizeof(counters);
-    ::GetProcessMemoryInfo(::GetCurrentProcess(), (PROCESS_MEMORY_COUNTERS*)&counters, sizeof(counters));
-    return counters.PrivateUsage;
-}
 
 void OneLife(CWnd* pParent, bool bWindow, std::vector<float>& x, std::vector<double>& d)
 {
@@ -47,7 +38,7 @@ TEST(Leaks, ThousandsOfGraphLivesReturnMemoryAndGdiObjects)
     TestHost::Pump();
 
     const LONG nGdiBefore = CGdiObject::GetLiveCount();
-    const SIZE_T nBytesBefore = PrivateBytes();
+    const SIZE_T nBytesBefore = CommittedBytes();
     for (int i = 0; i < 2000; i++) {
         OneLife(host.Wnd(), i % 2 == 0, x, d);
         if (i % 100 == 0)
@@ -56,7 +47,7 @@ TEST(Leaks, ThousandsOfGraphLivesReturnMemoryAndGdiObjects)
     TestHost::Pump();
     EXPECT_EQ(nGdiBefore, CGdiObject::GetLiveCount());
     // A leak of even one series' pixel array per life (8 kB) would add 16 MB.
-    const SIZE_T nBytesAfter = PrivateBytes();
+    const SIZE_T nBytesAfter = CommittedBytes();
     EXPECT_LT(nBytesAfter, nBytesBefore + 2 * 1024 * 1024)
         << "before " << nBytesBefore << " after " << nBytesAfter;
 }

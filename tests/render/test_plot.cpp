@@ -295,6 +295,16 @@ TEST(Pipeline, TheContextIsGivenBackAsItWas)
     }
     f.DC()->SetPrinting(FALSE);
     EXPECT_EQ(nLive, CGdiObject::GetLiveCount());   // no pen, brush or font left behind
+
+    // Thousands of paints leave no object and no memory behind.
+    const SIZE_T nBytesBefore = CommittedBytes();
+    for (int i = 0; i < 2000; i++) {
+        ::SelectClipRgn(hDC, hClip);
+        f.m_graph.Plot(f.DC(), 0);
+    }
+    EXPECT_EQ(nLive, CGdiObject::GetLiveCount());
+    EXPECT_LT(CommittedBytes(), nBytesBefore + 1024 * 1024);
+    ::SelectClipRgn(hDC, hClip);
     // A context without a clip region of its own gets back the empty region
     // that stood for it, which clips everything: a caller that draws on sets
     // its own.
