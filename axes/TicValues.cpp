@@ -148,19 +148,31 @@ void CGraphPrv::CalcYTicValues(int nAxis)
     }
 }
 
+void CGraphPrv::CalcAllTicValues()
+{
+    CalcXTicValues();
+    CalcYTicValues(0);
+    CalcYTicValues(1);
+}
+
+void CGraphPrv::ResetTicTables()
+{
+    // Eleven tics on every axis until the tic computation says otherwise.
+    m_nXTicCount = 10;
+    m_nYTicCount[0] = 10;
+    m_nYTicCount[1] = 10;
+    CalcAllTicValues();
+}
+
 int CGraphPrv::SetTicMarkType(int nTicType, int nMinorTics, CDC* pDC)
 {
     m_nXTicType = nTicType;
     m_nYTicType[0] = nTicType;
     m_nYTicType[1] = nTicType;
-    if (nTicType == 0) {
-        m_nXTicCount = 10;
-        m_nYTicCount[0] = 10;
-        m_nYTicCount[1] = 10;
-    }
-    CalcXTicValues();
-    CalcYTicValues(0);
-    CalcYTicValues(1);
+    if (nTicType == 0)
+        ResetTicTables();
+    else
+        CalcAllTicValues();
 
     // Minor tics are spaced by the resolution of the device they are drawn
     // on: the caller's (a printer's) or the window's.

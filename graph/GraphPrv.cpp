@@ -121,12 +121,7 @@ void CGraphPrv::InitMemberVariables(CWnd* pParent)
         GetClientRect(&m_rectGraph);
     LayoutFirst(tm);
 
-    m_nXTicCount = 10;
-    m_nYTicCount[0] = 10;
-    m_nYTicCount[1] = 10;
-    CalcXTicValues();
-    CalcYTicValues(0);
-    CalcYTicValues(1);
+    ResetTicTables();
     CalcTicMarkPixels();
 
     if (!(m_dwStyle & GS_NOWINDOW))

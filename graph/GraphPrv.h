@@ -129,6 +129,9 @@ public:
     // Tic tables and pixels, recomputed after every limit or layout change.
     void CalcXTicValues();
     void CalcYTicValues(int nAxis);
+    // The tic values of all three axes; with ResetTicTables, from counts of 10.
+    void CalcAllTicValues();
+    void ResetTicTables();
     int CalcFloatingTics(double dFirst, double dSecond, double* pdTable);
     void CalcTicMarkPixels();
     int NumberOfMinorTicMarks(int nSpacing, int nDotsPerInch);
