@@ -132,7 +132,7 @@ int CGraphPrv::ReSizeGraph(CRect* pRect)
         m_crossHair.Resize();
     if (m_dwState & GST_LIMIT_EDIT)
         SetFocus();   // ends an open limit editor
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis)
@@ -166,7 +166,7 @@ int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bR
             m_crossHair.Resize();
     }
     delete pDeviceFont;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
@@ -196,5 +196,5 @@ int CGraphPrv::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
     int nRight = RightAxisDisplayed() ? nLeft : S / 2;
     *pnWidth = nLeft + nRight + 3 * D;
     *pnHeight = 3 * L + ((5 * L) / 2 + 1) + (3 * L) / 2;
-    return 1;
+    return GRAPH_OK;
 }

@@ -69,20 +69,20 @@ void CGraphPrv::StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange)
 int CGraphPrv::SetXAxisLimits(double dMin, double dMax)
 {
     StoreXLimits(dMax, dMin, FALSE);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetXAxisLimits(double* pdMin, double* pdMax)
 {
     *pdMin = m_dXMin;
     *pdMax = m_dXMax;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetYAxisLimits(double dMin, double dMax, int nAxis)
 {
     StoreYLimits(dMax, dMin, nAxis, FALSE);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetYAxisLimits(double* pdMin, double* pdMax, int nAxis)
@@ -91,7 +91,7 @@ int CGraphPrv::GetYAxisLimits(double* pdMin, double* pdMax, int nAxis)
         return GRAPH_BADARG;
     *pdMin = m_dYMin[nAxis];
     *pdMax = m_dYMax[nAxis];
-    return 1;
+    return GRAPH_OK;
 }
 
 void CGraphPrv::sg_xrange(double dMax, double dMin)
@@ -108,17 +108,17 @@ int CGraphPrv::SetLimitFlip(DWORD dwFlags)
 {
     const DWORD dwOrderBits = GS_XLIMITORDER | GS_YLIMITORDER | GS_RESERVED40;
     m_dwStyle = (m_dwStyle & ~dwOrderBits) | (dwFlags & dwOrderBits);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetLimitFlip(DWORD* pdwFlags)
 {
     *pdwFlags = m_dwStyle;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetAutoScaleMode(int nMode)
 {
     m_nAutoScaleMode = nMode;
-    return 1;
+    return GRAPH_OK;
 }

@@ -158,7 +158,7 @@ int CGraphPrv::Radar(WORD wFlags)
         if ((wFlags & wAxisFlag) && e.bSeen)
             RangeY(this, e.dLo, e.dHi, RadarPad(e.dHi - e.dLo, m_fYResolution[nAxis], m_dRadarYPercent), nAxis);
     }
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::RadarPlotData(CString& strName, long lFlags)
@@ -176,33 +176,33 @@ int CGraphPrv::RadarPlotData(CString& strName, long lFlags)
         RangeY(this, dYLo, dYHi, dPad, 0);
     if (lFlags & RADAR_YRIGHT)
         RangeY(this, dYLo, dYHi, dPad, 1);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetRadarType(WORD wFlags)
 {
     m_wRadarType = wFlags;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetRadarType(WORD* pwFlags)
 {
     *pwFlags = m_wRadarType;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetRadarPercent(double dXPercent, double dYPercent)
 {
     m_dRadarXPercent = dXPercent;
     m_dRadarYPercent = dYPercent;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetRadarPercent(double& dXPercent, double& dYPercent)
 {
     dXPercent = m_dRadarXPercent;
     dYPercent = m_dRadarYPercent;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::EnableRadarDblClick(int bEnable)
@@ -211,13 +211,13 @@ int CGraphPrv::EnableRadarDblClick(int bEnable)
         m_dwState |= GST_RADAR_DBLCLK;
     else
         m_dwState &= ~GST_RADAR_DBLCLK;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::EnableRadarPercentControls(int bEnable)
 {
     m_bRadarPercentControls = bEnable;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::IsRadarPercentControlsEnabled()
@@ -228,7 +228,7 @@ int CGraphPrv::IsRadarPercentControlsEnabled()
 int CGraphPrv::EnableRadarAxisControls(int bEnable)
 {
     m_bRadarAxisControls = bEnable;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::IsRadarAxisControlsEnabled()

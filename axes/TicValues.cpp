@@ -203,12 +203,12 @@ int CGraphPrv::SetTicMarkType(int nTicType, int nMinorTics, CDC* pDC)
     CalcTicMarkPixels();
     if (pWindowDC != NULL)
         ReleaseDC(pWindowDC);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetTicMarkType(int* pnTicType, int* pnMinorTics)
 {
     *pnTicType = m_nXTicType;
     *pnMinorTics = m_nMinorTics;
-    return 1;
+    return GRAPH_OK;
 }

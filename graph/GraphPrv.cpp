@@ -145,26 +145,26 @@ int CGraphPrv::ShowGraph()
     ShowWindow(SW_SHOW);
     Replot();
     UpdateWindow();
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::HideGraph()
 {
     ShowWindow(SW_HIDE);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::Update()
 {
     UpdateWindow();
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::Replot()
 {
     if (m_hWnd != NULL)
         InvalidateRect(NULL, TRUE);
-    return 1;
+    return GRAPH_OK;
 }
 
 void CGraphPrv::DestroyOwnedTools()

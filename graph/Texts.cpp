@@ -18,57 +18,57 @@ int CGraphPrv::RightAxisDisplayed()
 int CGraphPrv::GetGraphClientRect(RECT* pRect)
 {
     *pRect = m_rectGraph;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetGraphScreenRect(RECT* pRect)
 {
     *pRect = m_rectGraph;
     ClientToScreen(pRect);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetPlotRect(CRect& rect)
 {
     rect = m_rectPlot;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetScrollRect(CRect& rect)
 {
     rect = m_rectScroll;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetGraphTitle(const CString& strTitle)
 {
     m_strGraphTitle = strTitle;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetGraphTitle(CString& strTitle)
 {
     strTitle = m_strGraphTitle;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetXAxisLabel(const CString& strLabel)
 {
     m_strXAxisLabel = strLabel;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetXAxisLabel(CString& strLabel)
 {
     strLabel = m_strXAxisLabel;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetYAxisLabel(int nAxis, const CString& strLabel)
 {
     if (nAxis != 1) {
         m_strYAxisLabel[0] = strLabel;
-        return 1;
+        return GRAPH_OK;
     }
     // The right label decides whether the right axis shows; the cross hair is
     // taken down meanwhile, since its read-outs depend on it.
@@ -79,20 +79,20 @@ int CGraphPrv::SetYAxisLabel(int nAxis, const CString& strLabel)
     m_bRightAxisDisplayed = !strLabel.IsEmpty();
     if (bCrossHair)
         m_crossHair.Show(this, TRUE);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetYAxisLabel(int nAxis, CString& strLabel)
 {
     strLabel = m_strYAxisLabel[nAxis == 1 ? 1 : 0];
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetXAxisNumFmt(const CString& strFormat)
 {
     m_strXAxisNumFmt = strFormat;
     m_fXResolution = ResolutionFromFormat(strFormat);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetYAxisNumFmt(int nAxis, const CString& strFormat)
@@ -100,7 +100,7 @@ int CGraphPrv::SetYAxisNumFmt(int nAxis, const CString& strFormat)
     int n = nAxis == 1 ? 1 : 0;
     m_strYAxisNumFmt[n] = strFormat;
     m_fYResolution[n] = ResolutionFromFormat(strFormat);
-    return 1;
+    return GRAPH_OK;
 }
 
 float CGraphPrv::ResolutionFromFormat(CString strFormat)

@@ -6,7 +6,7 @@
 
 int CGraphPrv::UpdateMarkerLinePos()
 {
-    return 1;
+    return GRAPH_OK;
 }
 
 void CGraphPrv::OnSeriesRemoved(CPlotData*)

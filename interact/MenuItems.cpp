@@ -5,13 +5,13 @@
 int CGraphPrv::EnableMenu(int bEnable)
 {
     m_bMenuEnabled = bEnable;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::SetMenuConfiguration(long lConfig)
 {
     m_lMenuConfig = lConfig;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pWnd)
@@ -20,7 +20,7 @@ int CGraphPrv::AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pW
     m_aMenuIds.Add(dwId);
     m_aMenuFlags.Add(nPosition);
     m_aMenuWnds.Add(pWnd);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::RemoveMenuItem(DWORD dwId)
@@ -31,7 +31,7 @@ int CGraphPrv::RemoveMenuItem(DWORD dwId)
             m_aMenuIds.RemoveAt(i);
             m_aMenuFlags.RemoveAt(i);
             m_aMenuWnds.RemoveAt(i);
-            return 1;
+            return GRAPH_OK;
         }
     }
     return 0;
@@ -43,5 +43,5 @@ int CGraphPrv::RemoveAllMenuItems()
     m_aMenuIds.RemoveAll();
     m_aMenuFlags.RemoveAll();
     m_aMenuWnds.RemoveAll();
-    return 1;
+    return GRAPH_OK;
 }

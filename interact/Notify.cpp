@@ -17,7 +17,7 @@ int CGraphPrv::EnableNotifications(CGraphNotify* pNotify, long lMask)
 {
     m_pNotify = pNotify;
     m_lNotifyMask = lMask;
-    return 1;
+    return GRAPH_OK;
 }
 
 void CGraphPrv::NotifyApplication(int nCode)

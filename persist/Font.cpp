@@ -32,7 +32,7 @@ int CGraphPrv::SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText)
         SizeGraph(&dc, m_rectPlot.left, m_rectPlot.top, m_rectPlot.right, m_rectPlot.bottom,
                   (m_dwStyle & GS_RIGHTAXIS) != 0);
     }
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText)
@@ -40,5 +40,5 @@ int CGraphPrv::GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText)
     *pLogFont = m_logFont;
     *pnPointSize = m_nPointSize;
     *pcrText = m_crText;
-    return 1;
+    return GRAPH_OK;
 }

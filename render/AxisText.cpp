@@ -374,5 +374,5 @@ int CGraphPrv::PutLabels(CDC* pDC)
     }
 
     pDC->SetTextColor(crOldText);
-    return 1;
+    return GRAPH_OK;
 }

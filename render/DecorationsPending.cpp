@@ -13,5 +13,5 @@ void CGraphPrv::RedrawOverlays(CDC*, const CRect&) {}
 
 int CPlotData::DrawPointHighlights(CDC*, CGraphPrv*)
 {
-    return 1;
+    return GRAPH_OK;
 }

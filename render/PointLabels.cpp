@@ -43,7 +43,7 @@ int CPlotData::DrawLabels(CDC* pDC, CGraphPrv* pGraph)
 {
     for (int i = 0; i < m_aLabelNames.GetSize(); i++)
         pGraph->LabelPoint(m_aLabelX[i], m_aLabelY[i], m_nYAxis, m_crAnnotate, m_aLabelStyles[i], m_aLabelTexts[i], pDC);
-    return 1;
+    return GRAPH_OK;
 }
 
 // ---------------------------------------------------------------------------

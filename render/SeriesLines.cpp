@@ -117,7 +117,7 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
 int CGraphPrv::PlotLine(double x1, double y1, double x2, double y2, DWORD crColor, int nStyle, int nYAxis)
 {
     if (m_hWnd == NULL)
-        return 1;   // a graph without a window has no screen to draw on
+        return GRAPH_OK;   // a graph without a window has no screen to draw on
     try {
         CClientDC dc(this);
         CPen pen;
@@ -133,5 +133,5 @@ int CGraphPrv::PlotLine(double x1, double y1, double x2, double y2, DWORD crColo
     } catch (CException* e) {
         e->Delete();   // no context for the window: nothing drawn
     }
-    return 1;
+    return GRAPH_OK;
 }

@@ -84,13 +84,13 @@ int CPlotData::SetDoubleData(double* pdX, double* pdY, long lPoints)
     ConvertToFloat(pdY, m_pfYData, lPoints, FloatFromBits(PLOTDATA_Y_OVERFLOW_BITS));
     m_pdXData = NULL;
     m_pdYData = NULL;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CPlotData::SetAnnotateColor(COLORREF crAnnotate)
 {
     m_crAnnotate = crAnnotate;
-    return 1;
+    return GRAPH_OK;
 }
 
 COLORREF CPlotData::GetAnnotateColor()
@@ -123,7 +123,7 @@ int CPlotData::AddLabel(const CString& strName, double x, double y, int nStyle, 
         m_aLabelStyles[i] = nStyle;
     }
     m_crAnnotate = m_crLine;
-    return 1;
+    return GRAPH_OK;
 }
 
 int CPlotData::RemoveLabel(const CString& strName)
@@ -136,7 +136,7 @@ int CPlotData::RemoveLabel(const CString& strName)
     m_aLabelX.RemoveAt(i);
     m_aLabelY.RemoveAt(i);
     m_aLabelStyles.RemoveAt(i);
-    return 1;
+    return GRAPH_OK;
 }
 
 void CPlotData::RemoveAllLabels()
@@ -170,7 +170,7 @@ int CPlotData::AddPointHighlight(const CString& strName, double x, double y, int
         m_aPointHighlightY[i] = y;
         m_aPointHighlightStyles[i] = nMarker;
     }
-    return 1;
+    return GRAPH_OK;
 }
 
 int CPlotData::RemovePointHighlight(const CString& strName)
@@ -182,7 +182,7 @@ int CPlotData::RemovePointHighlight(const CString& strName)
     m_aPointHighlightX.RemoveAt(i);
     m_aPointHighlightY.RemoveAt(i);
     m_aPointHighlightStyles.RemoveAt(i);
-    return 1;
+    return GRAPH_OK;
 }
 
 void CPlotData::RemoveAllPointHighlights()

@@ -8,7 +8,7 @@ int CGraphPrv::AddPropertyPage(CPropertyPage* pPage, DWORD dwId)
         return 0;
     m_aPropPages.Add(pPage);
     m_aPropPageFlags.Add(dwId);
-    return 1;
+    return GRAPH_OK;
 }
 
 int CGraphPrv::RemovePropertyPage(DWORD dwId)
@@ -17,7 +17,7 @@ int CGraphPrv::RemovePropertyPage(DWORD dwId)
         if (m_aPropPageFlags[i] == dwId) {
             m_aPropPages.RemoveAt(i);
             m_aPropPageFlags.RemoveAt(i);
-            return 1;
+            return GRAPH_OK;
         }
     }
     return 0;
@@ -26,5 +26,5 @@ int CGraphPrv::RemovePropertyPage(DWORD dwId)
 int CGraphPrv::SetPropertyPageConfiguration(long lConfig)
 {
     m_lPropPageConfig = lConfig;
-    return 1;
+    return GRAPH_OK;
 }
