@@ -3,6 +3,8 @@
 // tic tables and the per-axis arrays inside their bounds.
 #pragma once
 
+#include "afx/afxver.h"
+
 // Tolerance of a zero span: 2 to the power -23.
 const double AXES_TOLERANCE = 1.1920928955078125e-7;
 
@@ -36,3 +38,9 @@ inline int AxesYIndex(int nAxis)
 {
     return nAxis == 1 ? 1 : 0;
 }
+
+// A floating tic table for the limits dFirst and dSecond into pdTable (11
+// slots): the limits at the ends, even multiples of a step of 2, 5 or 10
+// times a power of ten between them; index 0 goes with dFirst. Returns the
+// index of the last entry.
+AFX_EXT_API int CalcFloatingTics(double dFirst, double dSecond, double* pdTable);

@@ -2,11 +2,13 @@
 // take in all of the data (or one series) with a margin in percent, and the
 // settings of the scaling.
 //
-// The stored extent of a series always has the smaller value in the minimum
-// field, whatever the direction of the axes. The scaling keeps the direction
-// an axis has when it is scaled: a reversed axis (minimum field above the
-// maximum field) stays reversed, and the margin lies outside the data on
-// every axis.
+// The stored extent of a series has the smaller value in the minimum field,
+// whatever the direction of the axes, with one exception: a series whose
+// points share one X value reaches from 0 to that value, which for a value
+// below 0 is a falling extent and gives a reversed X axis. The scaling keeps
+// the direction an axis has when it is scaled: a reversed axis (minimum field
+// above the maximum field) stays reversed, and the margin lies outside the
+// data on every axis.
 #include "graph/GraphPrv.h"
 #include "axes/AxesMath.h"
 #include "series/PlotData.h"
@@ -48,22 +50,21 @@ double RadarPad(double dSpan, float fResolution, double dPercent)
     return dSpan < (double)fResolution ? (double)fResolution * 0.5 : dSpan * dPercent * 0.01;
 }
 
-// Limits from dLo - dPad to dHi + dPad, in the direction the axis has now.
-// Equal limits have no direction and count as rising.
-void RangeX(CGraphPrv* pGraph, double dLo, double dHi, double dPad)
+// The limits that take in dLo - dPad to dHi + dPad in the direction an axis
+// has now (bReversed: minimum field above the maximum field), in the order
+// the range setters take them, maximum first. Equal limits have no direction
+// and count as rising.
+struct RadarRange
 {
-    if (pGraph->m_dXMin > pGraph->m_dXMax)
-        pGraph->sg_xrange(dLo - dPad, dHi + dPad);
-    else
-        pGraph->sg_xrange(dHi + dPad, dLo - dPad);
-}
+    double dMax;
+    double dMin;
+};
 
-void RangeY(CGraphPrv* pGraph, double dLo, double dHi, double dPad, int nAxis)
+RadarRange RadarLimits(BOOL bReversed, double dLo, double dHi, double dPad)
 {
-    if (pGraph->m_dYMin[nAxis] > pGraph->m_dYMax[nAxis])
-        pGraph->sg_yrange(dLo - dPad, dHi + dPad, nAxis);
-    else
-        pGraph->sg_yrange(dHi + dPad, dLo - dPad, nAxis);
+    if (bReversed)
+        return RadarRange{dLo - dPad, dHi + dPad};
+    return RadarRange{dHi + dPad, dLo - dPad};
 }
 
 // The wait cursor, shown while a graph with a window scans its series.
@@ -111,14 +112,9 @@ void CGraphPrv::GetRadarValues(CPlotData* pData)
         fYMin = pfY[i] < fYMin ? pfY[i] : fYMin;
         fYMax = pfY[i] > fYMax ? pfY[i] : fYMax;
     }
-    // A series whose points share one X value reaches from 0 to that value
-    // (a negative value from that value to 0).
-    if (fXMin == fXMax) {
-        if (fXMin > 0.0f)
-            fXMin = 0.0f;
-        else
-            fXMax = 0.0f;
-    }
+    // A series whose points share one X value reaches from 0 to that value.
+    if (fXMin == fXMax)
+        fXMin = 0.0f;
     pData->m_fXMin = fXMin;
     pData->m_fXMax = fXMax;
     pData->m_fYMin = fYMin;
@@ -136,6 +132,9 @@ int CGraphPrv::Radar(WORD wFlags)
 
     RadarExtent x, y[2];
     if (!(m_dwStyle & GS_NOPLOT)) {
+        // A host thread may swap a series' arrays at any time: the scan
+        // holds the series lock.
+        CSingleLock lock(&m_csPlotData, TRUE);
         POSITION pos = m_mapPlotData.GetStartPosition();
         while (pos != NULL) {
             CString strName;
@@ -150,13 +149,19 @@ int CGraphPrv::Radar(WORD wFlags)
     }
 
     // An axis without a series keeps its limits.
-    if ((wFlags & RADAR_X) && x.bSeen)
-        RangeX(this, x.dLo, x.dHi, RadarPad(x.dHi - x.dLo, m_fXResolution, m_dRadarXPercent));
+    if ((wFlags & RADAR_X) && x.bSeen) {
+        const double dPad = RadarPad(x.dHi - x.dLo, m_fXResolution, m_dRadarXPercent);
+        const RadarRange r = RadarLimits(m_dXMin > m_dXMax, x.dLo, x.dHi, dPad);
+        sg_xrange(r.dMax, r.dMin);
+    }
     for (int nAxis = 0; nAxis < 2; nAxis++) {
         const WORD wAxisFlag = nAxis == 0 ? RADAR_YLEFT : RADAR_YRIGHT;
         const RadarExtent& e = y[nAxis];
-        if ((wFlags & wAxisFlag) && e.bSeen)
-            RangeY(this, e.dLo, e.dHi, RadarPad(e.dHi - e.dLo, m_fYResolution[nAxis], m_dRadarYPercent), nAxis);
+        if ((wFlags & wAxisFlag) && e.bSeen) {
+            const double dPad = RadarPad(e.dHi - e.dLo, m_fYResolution[nAxis], m_dRadarYPercent);
+            const RadarRange r = RadarLimits(m_dYMin[nAxis] > m_dYMax[nAxis], e.dLo, e.dHi, dPad);
+            sg_yrange(r.dMax, r.dMin, nAxis);
+        }
     }
     return GRAPH_OK;
 }
@@ -168,14 +173,18 @@ int CGraphPrv::RadarPlotData(CString& strName, long lFlags)
         return GRAPH_NOSERIES;
     // The stored extent, without a new scan. X has no margin here, and the
     // left axis's resolution serves both Y axes.
-    if (lFlags & RADAR_X)
-        RangeX(this, pData->m_fXMin, pData->m_fXMax, 0.0);
+    if (lFlags & RADAR_X) {
+        const RadarRange r = RadarLimits(m_dXMin > m_dXMax, pData->m_fXMin, pData->m_fXMax, 0.0);
+        sg_xrange(r.dMax, r.dMin);
+    }
     const double dYLo = pData->m_fYMin, dYHi = pData->m_fYMax;
     const double dPad = RadarPad(dYHi - dYLo, m_fYResolution[0], m_dRadarYPercent);
-    if (lFlags & RADAR_YLEFT)
-        RangeY(this, dYLo, dYHi, dPad, 0);
-    if (lFlags & RADAR_YRIGHT)
-        RangeY(this, dYLo, dYHi, dPad, 1);
+    for (int nAxis = 0; nAxis < 2; nAxis++) {
+        if (lFlags & (nAxis == 0 ? RADAR_YLEFT : RADAR_YRIGHT)) {
+            const RadarRange r = RadarLimits(m_dYMin[nAxis] > m_dYMax[nAxis], dYLo, dYHi, dPad);
+            sg_yrange(r.dMax, r.dMin, nAxis);
+        }
+    }
     return GRAPH_OK;
 }
 

@@ -26,9 +26,9 @@ void FillFixedTable(double dFirst, double dSecond, int nCount, double* pdTable)
 
 } // namespace
 
-int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
+int CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
 {
-    // 1. Work from the smaller limit up; note a reversed axis.
+    // Work from the smaller limit up; note a reversed axis.
     double dLo = dFirst;
     double dHi = dSecond;
     BOOL bReversed = FALSE;
@@ -38,7 +38,7 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
         bReversed = TRUE;
     }
 
-    // 2, 3. A span too small to divide (or none at all, as not-a-number and
+    // A span too small to divide (or none at all, as not-a-number and
     // infinite limits give) gets two tics, at the limits.
     double dSpan = dHi - dLo;
     if (fabs(dSpan) < AXES_TOLERANCE || !(dSpan - dSpan == 0.0)) {
@@ -47,7 +47,7 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
         return 1;
     }
 
-    // 4. A narrow span is scaled up to at least 1, and the table back at the end.
+    // A narrow span is scaled up to at least 1, and the table back at the end.
     double dMult = 1.0;
     BOOL bScaled = FALSE;
     if (dSpan < 0.2) {
@@ -62,7 +62,7 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
         bScaled = TRUE;
     }
 
-    // 5. The first power of ten that brings the span to 1 or below.
+    // The first power of ten that brings the span to 1 or below.
     double dPower = 1.0;
     double dMant = dSpan;
     while (!(dMant <= 1.0)) {
@@ -70,12 +70,12 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
         dMant = dSpan / dPower;
     }
 
-    // 6. Three decimals, through the printed text.
+    // Three decimals, through the printed text.
     _snprintf(g_szTicMantissa, sizeof(g_szTicMantissa) - 1, "%5.3f", dMant);
     g_szTicMantissa[sizeof(g_szTicMantissa) - 1] = '\0';
     const double dNum = atof(g_szTicMantissa);
 
-    // 7, 8. The step: two and a half to five steps across the span.
+    // The step: two and a half to five steps across the span.
     double dFraction;
     if (dNum <= 0.1)
         dFraction = 0.02;
@@ -87,12 +87,12 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
         dFraction = 0.2;
     const double dStep = dPower * dFraction;
 
-    // 9, 10. The lower limit, then the first multiple of the step above it; a
+    // The lower limit, then the first multiple of the step above it; a
     // value a hair below a multiple counts as that multiple.
     pdTable[0] = dLo;
     pdTable[1] = floor(dLo / dStep + 1.00000051) * dStep;
 
-    // 11, 12. Multiples up to the first at or above the upper limit, which
+    // Multiples up to the first at or above the upper limit, which
     // then takes the limit's place. The table stops at its last slot in any
     // case; the step never needs more than eight of them.
     int nLast = 1;
@@ -106,7 +106,7 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
     }
     pdTable[nLast] = dHi;
 
-    // 13. Index 0 goes with the first limit again.
+    // Index 0 goes with the first limit again.
     if (bReversed) {
         for (int i = 0, j = nLast; i < j; i++, j--) {
             double d = pdTable[i];
@@ -115,14 +115,18 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
         }
     }
 
-    // 14. Back to the scale of the limits.
+    // Back to the scale of the limits.
     if (bScaled) {
         for (int i = 0; i <= nLast; i++)
             pdTable[i] /= dMult;
     }
 
-    // 15.
     return nLast;
+}
+
+int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
+{
+    return ::CalcFloatingTics(dFirst, dSecond, pdTable);
 }
 
 void CGraphPrv::CalcXTicValues()

@@ -121,7 +121,6 @@ int CGraph::EnableRadarPercentControls(int bEnable) { return m_pGraphPrv->Enable
 int CGraph::IsRadarPercentControlsEnabled() { return m_pGraphPrv->IsRadarPercentControlsEnabled(); }
 int CGraph::EnableRadarAxisControls(int bEnable) { return m_pGraphPrv->EnableRadarAxisControls(bEnable); }
 int CGraph::IsRadarAxisControlsEnabled() { return m_pGraphPrv->IsRadarAxisControlsEnabled(); }
-// (axes section)
 
 // Interaction
 int CGraph::EnableMenu(int bEnable) { return m_pGraphPrv->EnableMenu(bEnable); }
@@ -134,7 +133,6 @@ int CGraph::AddPropertyPage(CPropertyPage* pPage, DWORD dwId) { return m_pGraphP
 int CGraph::RemovePropertyPage(DWORD dwId) { return m_pGraphPrv->RemovePropertyPage(dwId); }
 int CGraph::SetPropertyPageConfiguration(long lConfig) { return m_pGraphPrv->SetPropertyPageConfiguration(lConfig); }
 int CGraph::EnableNotifications(CGraphNotify* pNotify, long lMask) { return m_pGraphPrv->EnableNotifications(pNotify, lMask); }
-// (interact section)
 
 // Drawing
 int CGraph::ShowGrid(DWORD dwGridType) { return m_pGraphPrv->ShowGrid(dwGridType); }
@@ -159,4 +157,3 @@ int CGraph::AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int n
 int CGraph::AnnotateLine(CString& strName, int nMark, int nStep) { return m_pGraphPrv->AnnotateLine(strName, nMark, nStep); }
 int CGraph::LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC)
     { return m_pGraphPrv->LabelPoint(dX, dY, nYAxis, crColor, nMark, strText, pDC); }
-// (render section)

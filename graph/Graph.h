@@ -115,7 +115,6 @@ public:
     int IsRadarPercentControlsEnabled();
     int EnableRadarAxisControls(int bEnable);
     int IsRadarAxisControlsEnabled();
-    // (axes section)
 
     // ---- Interaction ----------------------------------------------------------
     int EnableMenu(int bEnable);
@@ -127,7 +126,6 @@ public:
     int RemovePropertyPage(DWORD dwId);
     int SetPropertyPageConfiguration(long lConfig);
     int EnableNotifications(CGraphNotify* pNotify, long lMask);
-    // (interact section)
 
     // ---- Drawing --------------------------------------------------------------
     int ShowGrid(DWORD dwGridType);
@@ -144,7 +142,6 @@ public:
     int AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark);
     int AnnotateLine(CString& strName, int nMark, int nStep);
     int LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC);
-    // (render section)
 
     CGraphPrv* m_pGraphPrv;   // the implementation, made here, destroyed here, never replaced
 

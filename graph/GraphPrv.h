@@ -43,8 +43,8 @@ public:
     virtual ~CGraphPrv();
 
     // ---- Replaceable by a derived class (called through the virtual table) --
-    virtual int Plot(CDC* pDC, int bSeriesOnly);
-    virtual int PutLabels(CDC* pDC);
+    virtual int Plot(CDC* pDC, int bPointsOnly);
+    virtual void PutLabels(CDC* pDC);
     virtual int Replot();
     virtual int ReSizeGraph(CRect* pRect);
     virtual int ShowGraph();
@@ -118,32 +118,6 @@ public:
     int GetTicMarkType(int* pnTicType, int* pnMinorTics);
     int SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis);
     int GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight);
-    // Transforms between data values and pixels. The Rpt forms reuse the
-    // transform kept by the last PixelToDataX / PixelToDataY.
-    int DataToPixelX(double dX);
-    int DataToPixelY(double dY, int nAxis);
-    double PixelToDataX(int nX);
-    double PixelToDataY(int nY, int nAxis);
-    double PixelToDataXRpt(int nX);
-    double PixelToDataYRpt(int nY, int nAxis);
-    // Tic tables and pixels, recomputed after every limit or layout change.
-    void CalcXTicValues();
-    void CalcYTicValues(int nAxis);
-    // The tic values of all three axes; with ResetTicTables, from counts of 10.
-    void CalcAllTicValues();
-    void ResetTicTables();
-    int CalcFloatingTics(double dFirst, double dSecond, double* pdTable);
-    void CalcTicMarkPixels();
-    int NumberOfMinorTicMarks(int nSpacing, int nDotsPerInch);
-    // Limits as the editors, the zoom and the scaling set them (max first).
-    void sg_xrange(double dMax, double dMin);
-    void sg_yrange(double dMax, double dMin, int nAxis);
-    void HorzXform(double* pdScale, double* pdOffset);
-    void VertXform(double* pdScale, double* pdOffset, int nAxis);
-    // The pixels of all points of a series, into pPoints (m_lPoints entries).
-    void XformPlotData(CPlotData* pData, POINT* pPoints);
-    int IsPointInPlotRect(double& dValue, int nKind);
-    int IsPointInPlotRect(int& nPixel, int nKind);
     // Automatic scaling ("Radar"): limits from the data with a margin in
     // percent. Radar() scales the axes of m_wRadarType, Radar(flags) those of
     // the RADAR_ bits, RadarPlotData one series from its stored extent.
@@ -159,7 +133,6 @@ public:
     int IsRadarPercentControlsEnabled();
     int EnableRadarAxisControls(int bEnable);
     int IsRadarAxisControlsEnabled();
-    // (axes section)
 
     // ---- interact/: notifications, tools, legend ----------------------------
     void RemoveAllFloatingLabels();
@@ -174,23 +147,11 @@ public:
     int SetPropertyPageConfiguration(long lConfig);
     // The host's notification sink and the notifications it wants (GN_ bits).
     int EnableNotifications(CGraphNotify* pNotify, long lMask);
-    // Calls on the sink. The message handlers, the tools and the property
-    // sheet call these; they stand here in the open so that tests reach them.
-    // Codes are int, host page identifiers UINT: a call picks by the type.
-    void NotifyApplication(int nCode);
-    void NotifyApplication(UINT wParam, long lParam);
-    void NotifyApplication(UINT nMessage, UINT nFlags, CPoint point);
-    void NotifyApplication(UINT nPageId);
-    void NotifyApplication(CPoint point);
-    // (interact section)
 
     // ---- render/: the plot pipeline and drawers -----------------------------
     int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
     int RemoveReferenceLine(CString strName);
     int RemoveAllReferenceLines();
-    // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when
-    // some part is visible. dwFlags gets CLIP_MOVED_FIRST / CLIP_MOVED_SECOND.
-    int ClipDrawLine(const CRect& rect, POINT& pt1, POINT& pt2, DWORD& dwFlags);
     // Draws the open polyline clipped to m_rectPlot, in runs of at most 1000
     // points; 0 when the last device call that counts succeeded, else 1.
     int Polyline_Win98_Workaround(CDC* pDC, POINT* pPoints, int nCount);
@@ -257,7 +218,6 @@ public:
     // The font of the marks and label texts: the graph's font at its point
     // size for the device of pDC, turned by nEscapement tenths of a degree.
     void CreateMarkFont(CFont& font, CDC* pDC, int nEscapement);
-    // (render section)
 
 protected:
     // ---- graph/ ---------------------------------------------------------------
@@ -290,7 +250,6 @@ protected:
     // marker line.
     void StoreXLimits(double dMax, double dMin, BOOL bRange);
     void StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange);
-    // (axes protected section)
 
     // ---- interact/ (protected) ----------------------------------------------
     // The marker line follows its series: removed with it, and kept on valid
@@ -303,7 +262,6 @@ protected:
     void UpdateAllFloatingLabelPositions();
     // Recomputes the marker line's pixels from its data positions; 1.
     int UpdateMarkerLinePos();
-    // (interact protected section)
 
     // ---- render/ (protected) ------------------------------------------------
     // Cooperative plotting flags of a derived class with a foreground and a
@@ -320,13 +278,61 @@ protected:
     // LabelPoint on a context: mark, then the text upward beside it.
     void DrawPointLabel(CDC* pDC, double dX, double dY, int nYAxis, COLORREF crColor, int nMark,
                         const CString& strText);
-    // (render protected section)
+
+    // ---- interact/: calls on the notification sink -------------------------
+    // Calls on the sink, from the message handlers, the tools and the
+    // property sheet. Codes are int, host page identifiers UINT: a call picks
+    // by the type.
+    void NotifyApplication(int nCode);
+    void NotifyApplication(UINT wParam, long lParam);
+    void NotifyApplication(UINT nMessage, UINT nFlags, CPoint point);
+    void NotifyApplication(UINT nPageId);
+    void NotifyApplication(CPoint point);
 
     // ---- message handlers ---------------------------------------------------
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
-    // (handlers section)
     DECLARE_MESSAGE_MAP()
+
+private:
+    // The facade forwards the transforms; the limit editor reports through
+    // NotifyApplication. Tests reach the internals through one friend of theirs.
+    friend class CGraph;
+    friend class CEditLimit;
+    friend class CGraphTestAccess;
+
+    // ---- axes/ (private) ----------------------------------------------------
+    // Transforms between data values and pixels. The Rpt forms reuse the
+    // transform kept by the last PixelToDataX / PixelToDataY.
+    int DataToPixelX(double dX);
+    int DataToPixelY(double dY, int nAxis);
+    double PixelToDataX(int nX);
+    double PixelToDataY(int nY, int nAxis);
+    double PixelToDataXRpt(int nX);
+    double PixelToDataYRpt(int nY, int nAxis);
+    // Tic tables and pixels, recomputed after every limit or layout change.
+    void CalcXTicValues();
+    void CalcYTicValues(int nAxis);
+    // The tic values of all three axes; with ResetTicTables, from counts of 10.
+    void CalcAllTicValues();
+    void ResetTicTables();
+    int CalcFloatingTics(double dFirst, double dSecond, double* pdTable);
+    void CalcTicMarkPixels();
+    int NumberOfMinorTicMarks(int nSpacing, int nDotsPerInch);
+    // Limits as the editors, the zoom and the scaling set them (max first).
+    void sg_xrange(double dMax, double dMin);
+    void sg_yrange(double dMax, double dMin, int nAxis);
+    void HorzXform(double* pdScale, double* pdOffset);
+    void VertXform(double* pdScale, double* pdOffset, int nAxis);
+    // The pixels of all points of a series, into pPoints (m_lPoints entries).
+    void XformPlotData(CPlotData* pData, POINT* pPoints);
+    int IsPointInPlotRect(double& dValue, int nKind);
+    int IsPointInPlotRect(int& nPixel, int nKind);
+
+    // ---- render/ (private) --------------------------------------------------
+    // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when
+    // some part is visible. dwFlags gets CLIP_MOVED_FIRST / CLIP_MOVED_SECOND.
+    int ClipDrawLine(const CRect& rect, POINT& pt1, POINT& pt2, DWORD& dwFlags);
 
 public:
     // ---- Fields, in declaration order ---------------------------------------

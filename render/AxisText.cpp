@@ -333,7 +333,7 @@ void PutYNumbers(LabelContext& c, int nAxis, int yTop, int yBottom)
 // [SECTION] PutLabels
 // ---------------------------------------------------------------------------
 
-int CGraphPrv::PutLabels(CDC* pDC)
+void CGraphPrv::PutLabels(CDC* pDC)
 {
     CGraphTextFont font(pDC, this);
     const COLORREF crOldText = pDC->SetTextColor(IsColorDevice(pDC) ? m_crText : 0);
@@ -374,5 +374,4 @@ int CGraphPrv::PutLabels(CDC* pDC)
     }
 
     pDC->SetTextColor(crOldText);
-    return GRAPH_OK;
 }

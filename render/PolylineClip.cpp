@@ -34,52 +34,55 @@ inline LONG AddLow32(LONG a, LONGLONG q)
     return (LONG)((ULONG)a + (ULONG)q);
 }
 
-// Where the segment from -> to crosses the vertical line x: the y of that
-// crossing, from a 64-bit product and a quotient truncated toward zero.
-inline LONG CrossVertical(const POINT& from, const POINT& to, LONG x)
+// Where the line through pt1 and pt2 crosses the vertical line x: the y of
+// that crossing, from a 64-bit product and a quotient truncated toward zero.
+// Always measured from pt1, whichever end is being moved.
+inline LONG CrossVertical(const POINT& pt1, const POINT& pt2, LONG x)
 {
-    return AddLow32(from.y, Diff32(x, from.x) * Diff32(to.y, from.y) / Diff32(to.x, from.x));
+    return AddLow32(pt1.y, Diff32(x, pt1.x) * Diff32(pt2.y, pt1.y) / Diff32(pt2.x, pt1.x));
 }
 
 // The same for the horizontal line y: the x of the crossing.
-inline LONG CrossHorizontal(const POINT& from, const POINT& to, LONG y)
+inline LONG CrossHorizontal(const POINT& pt1, const POINT& pt2, LONG y)
 {
-    return AddLow32(from.x, Diff32(y, from.y) * Diff32(to.x, from.x) / Diff32(to.y, from.y));
+    return AddLow32(pt1.x, Diff32(y, pt1.y) * Diff32(pt2.x, pt1.x) / Diff32(pt2.y, pt1.y));
 }
 
-// Moves pt onto the rectangle's edge along the segment toward other,
-// trying the sides of nCode in the order left, right, top, bottom, each from
-// pt as the earlier tries left it. The second end is clipped in the same way
-// as the first, from the first as already clipped. True when a side moved pt.
-inline bool ClipEnd(const CRect& rect, int nCode, POINT& pt, const POINT& other)
+// Moves one end of the segment pt1-pt2 (pt1 itself, or pt2 when bSecond)
+// onto the rectangle's edge, trying the sides of nCode in the order left,
+// right, top, bottom, each from the points as the earlier tries left them.
+// The crossing is always computed from pt1, so the second end is clipped
+// from the first as already clipped. True when a side moved the end.
+inline bool ClipEnd(const CRect& rect, int nCode, POINT& pt1, POINT& pt2, bool bSecond)
 {
+    POINT& pt = bSecond ? pt2 : pt1;
     bool bMoved = false;
-    if ((nCode & OUT_LEFT) && other.x != pt.x) {
-        LONG y = CrossVertical(pt, other, rect.left);
+    if ((nCode & OUT_LEFT) && pt2.x != pt1.x) {
+        LONG y = CrossVertical(pt1, pt2, rect.left);
         if (y >= rect.top && y <= rect.bottom) {
             pt.x = rect.left;
             pt.y = y;
             bMoved = true;
         }
     }
-    if ((nCode & OUT_RIGHT) && other.x != pt.x) {
-        LONG y = CrossVertical(pt, other, rect.right);
+    if ((nCode & OUT_RIGHT) && pt2.x != pt1.x) {
+        LONG y = CrossVertical(pt1, pt2, rect.right);
         if (y >= rect.top && y <= rect.bottom) {
             pt.x = rect.right;
             pt.y = y;
             bMoved = true;
         }
     }
-    if ((nCode & OUT_TOP) && other.y != pt.y) {
-        LONG x = CrossHorizontal(pt, other, rect.top);
+    if ((nCode & OUT_TOP) && pt2.y != pt1.y) {
+        LONG x = CrossHorizontal(pt1, pt2, rect.top);
         if (x >= rect.left && x <= rect.right) {
             pt.x = x;
             pt.y = rect.top;
             bMoved = true;
         }
     }
-    if ((nCode & OUT_BOTTOM) && other.y != pt.y) {
-        LONG x = CrossHorizontal(pt, other, rect.bottom);
+    if ((nCode & OUT_BOTTOM) && pt2.y != pt1.y) {
+        LONG x = CrossHorizontal(pt1, pt2, rect.bottom);
         if (x >= rect.left && x <= rect.right) {
             pt.x = x;
             pt.y = rect.bottom;
@@ -101,13 +104,13 @@ int CGraphPrv::ClipDrawLine(const CRect& rect, POINT& pt1, POINT& pt2, DWORD& dw
     if (c1 & c2)
         return 0;               // both ends beyond the same side
     if (c1 != 0) {
-        if (!ClipEnd(rect, c1, pt1, pt2))
+        if (!ClipEnd(rect, c1, pt1, pt2, false))
             return 0;           // passes by the rectangle
         dwFlags |= CLIP_MOVED_FIRST;
     }
     if (c2 == 0)
         return 1;
-    if (!ClipEnd(rect, c2, pt2, pt1))
+    if (!ClipEnd(rect, c2, pt1, pt2, true))
         return 0;
     dwFlags |= CLIP_MOVED_SECOND;
     return 1;

@@ -1,6 +1,7 @@
 // CPlotData: conversion of double data to owned floats, the remembered point
 // labels and point highlights, and the release of everything a series owns.
 #include "series/PlotData.h"
+#include "graph/GraphDefs.h"
 #include "render/AreaData.h"
 #include "render/HighlightRegionData.h"
 #include <mbstring.h>
@@ -57,7 +58,7 @@ CPlotData::~CPlotData()
         delete m_listHighlights.RemoveHead();
 }
 
-int CPlotData::SetDoubleData(double* pdX, double* pdY, long lPoints)
+BOOL CPlotData::SetDoubleData(double* pdX, double* pdY, long lPoints)
 {
     m_pdXData = pdX;
     m_pdYData = pdY;
@@ -78,13 +79,13 @@ int CPlotData::SetDoubleData(double* pdX, double* pdY, long lPoints)
         m_bOwnYData = TRUE;
     } catch (CException* e) {
         e->Delete();
-        return 0;
+        return FALSE;
     }
     ConvertToFloat(pdX, m_pfXData, lPoints, FloatFromBits(PLOTDATA_X_OVERFLOW_BITS));
     ConvertToFloat(pdY, m_pfYData, lPoints, FloatFromBits(PLOTDATA_Y_OVERFLOW_BITS));
     m_pdXData = NULL;
     m_pdYData = NULL;
-    return GRAPH_OK;
+    return TRUE;
 }
 
 int CPlotData::SetAnnotateColor(COLORREF crAnnotate)

@@ -23,7 +23,7 @@ public:
 
     // Replaces the arrays with owned float copies of the host's doubles;
     // 1, or 0 when memory fails (the pointers then refer to nothing freed).
-    int SetDoubleData(double* pdX, double* pdY, long lPoints);
+    BOOL SetDoubleData(double* pdX, double* pdY, long lPoints);
     int SetAnnotateColor(COLORREF crAnnotate);
     COLORREF GetAnnotateColor();
 

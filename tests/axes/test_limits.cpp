@@ -2,6 +2,7 @@
 // the order of the arguments of the range setters, the limit order bits and
 // the cross hair's lock and transform.
 #include "TestUtil.h"
+#include "TestAccess.h"
 
 #include <math.h>
 
@@ -36,10 +37,10 @@ TEST(Limits, StoreAndRead)
     // minimum first, the range pair the maximum first.
     g.m_graph.SetXAxisLimits(10.0, 0.0);
     EXPECT_EQ(10.0, p->m_dXMin);
-    p->sg_xrange(10.0, 0.0);
+    CGraphTestAccess::sg_xrange(p, 10.0, 0.0);
     EXPECT_EQ(0.0, p->m_dXMin);
     EXPECT_EQ(10.0, p->m_dXMax);
-    p->sg_yrange(-4.0, 6.0, 1);
+    CGraphTestAccess::sg_yrange(p, -4.0, 6.0, 1);
     EXPECT_EQ(6.0, p->m_dYMin[1]);
     EXPECT_EQ(-4.0, p->m_dYMax[1]);
 }
@@ -83,7 +84,7 @@ TEST(Limits, NarrowPairWithResolution)
     // Without digits after the point no span is narrower than 1; a pair
     // exactly one resolution wide is not narrow.
     g.m_graph.SetXAxisNumFmt("%.0f");
-    p->sg_xrange(3.5, 3.0);
+    CGraphTestAccess::sg_xrange(p, 3.5, 3.0);
     EXPECT_EQ(2.5, p->m_dXMin);
     g.m_graph.SetXAxisLimits(4.0, 3.0);
     EXPECT_EQ(4.0, p->m_dXMin);
@@ -98,7 +99,7 @@ TEST(Limits, EachAxisHasItsOwnResolution)
     g.m_graph.SetYAxisNumFmt(1, "%.2f");
     g.m_graph.SetYAxisLimits(4.0, 4.001, 1);
     EXPECT_EQ(4.001 - (double)0.01f, p->m_dYMin[1]);
-    p->sg_yrange(4.0, 4.001, 1);
+    CGraphTestAccess::sg_yrange(p, 4.0, 4.001, 1);
     EXPECT_EQ(4.0, p->m_dYMax[1]);
     EXPECT_EQ(4.0 + (double)0.01f, p->m_dYMin[1]);
     // The left axis and X have resolution 0 and store any pair.
@@ -158,7 +159,7 @@ TEST(Limits, CrossHairLockAndTransform)
     EXPECT_EQ(500.0 / 250.0, p->m_dXScale);
     EXPECT_EQ(550.0 - 2.0 * 250.0, p->m_dXOffset);
     p->m_dwState |= GST_CROSSHAIR_LOCKED;
-    p->sg_yrange(10.0, 0.0, 1);
+    CGraphTestAccess::sg_yrange(p, 10.0, 0.0, 1);
     EXPECT_FALSE(p->m_dwState & GST_CROSSHAIR_LOCKED);
     EXPECT_EQ(200.0 / 10.0, p->m_dYScale[1]);
     EXPECT_EQ(220.0, p->m_dYOffset[1]);

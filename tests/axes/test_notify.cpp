@@ -2,6 +2,7 @@
 // check the gates of the mask, the control identifier, the screen
 // coordinates of mouse events and the calls that ignore the mask.
 #include "TestUtil.h"
+#include "TestAccess.h"
 
 #include <vector>
 
@@ -37,12 +38,12 @@ const UINT g_mouse[] = { WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTOND
 void SendAll(CGraphPrv* p)
 {
     for (int nCode : g_codes)
-        p->NotifyApplication(nCode);
+        CGraphTestAccess::NotifyApplication(p, nCode);
     for (UINT nMessage : g_mouse)
-        p->NotifyApplication(nMessage, (UINT)MK_LBUTTON, CPoint(5, 6));
-    p->NotifyApplication((UINT)77);
-    p->NotifyApplication((UINT)14750, 99L);
-    p->NotifyApplication(CPoint(300, 400));
+        CGraphTestAccess::NotifyApplication(p, nMessage, (UINT)MK_LBUTTON, CPoint(5, 6));
+    CGraphTestAccess::NotifyApplication(p, (UINT)77);
+    CGraphTestAccess::NotifyApplication(p, (UINT)14750, 99L);
+    CGraphTestAccess::NotifyApplication(p, CPoint(300, 400));
 }
 
 // A graph window at (30, 40) of its parent, with control id 4321.
@@ -109,7 +110,7 @@ TEST(Notify, MaskGatesIdsAndScreenCoordinates)
     RecordingSink sink;
     g.m_graph.EnableNotifications(&sink, 0xFFFF);
     for (UINT nMessage : { (UINT)WM_RBUTTONDBLCLK, (UINT)WM_MOUSEWHEEL, (UINT)WM_KEYDOWN })
-        g.Prv()->NotifyApplication(nMessage, 0u, CPoint(1, 1));
+        CGraphTestAccess::NotifyApplication(g.Prv(), nMessage, 0u, CPoint(1, 1));
     EXPECT_TRUE(sink.m_calls.empty());
     // A null sink stops everything, whatever the mask.
     g.m_graph.EnableNotifications(NULL, 0xFFFF);
@@ -122,8 +123,8 @@ TEST(Notify, GraphWithoutWindow)
     GraphInHost g(GS_NOWINDOW, CRect(0, 0, 200, 100), 55);
     RecordingSink sink;
     g.m_graph.EnableNotifications(&sink, 0xFFFF);
-    g.Prv()->NotifyApplication(GN_COPY);
-    g.Prv()->NotifyApplication((UINT)WM_MOUSEMOVE, 0u, CPoint(7, 8));
+    CGraphTestAccess::NotifyApplication(g.Prv(), GN_COPY);
+    CGraphTestAccess::NotifyApplication(g.Prv(), (UINT)WM_MOUSEMOVE, 0u, CPoint(7, 8));
     // No window: no identifier, and the point stays as it came.
     EXPECT_EQ((std::vector<std::string>{ Str("event 0 %d", GN_COPY), "mouse 0 512 0 7,8" }), sink.m_calls);
 }

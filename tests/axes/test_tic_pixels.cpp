@@ -2,6 +2,7 @@
 // major spacing, the minor tics at a given resolution, the right axis that
 // copies the left one, and the empty plot.
 #include "TestUtil.h"
+#include "TestAccess.h"
 
 TEST(TicPixels, FixedModeIgnoresTheLimits)
 {
@@ -11,14 +12,14 @@ TEST(TicPixels, FixedModeIgnoresTheLimits)
     g.m_graph.SetXAxisLimits(-7.0, 3.3);
     g.m_graph.SetYAxisLimits(1e6, -1e6, 0);
     p->m_rectPlot.SetRect(50, 20, 550, 220);
-    p->CalcTicMarkPixels();
+    CGraphTestAccess::CalcTicMarkPixels(p);
     for (int i = 0; i <= 10; i++) {
         EXPECT_EQ(50 + 50 * i, p->m_nXTicPixel[i]) << i;
         EXPECT_EQ(220 - 20 * i, p->m_nYTicPixel[0][i]) << i;
     }
     // Odd sizes: a tenth of the size, rounded by adding 0.50001.
     p->m_rectPlot.SetRect(3, 7, 336, 180);
-    p->CalcTicMarkPixels();
+    CGraphTestAccess::CalcTicMarkPixels(p);
     EXPECT_EQ(3 + 33, p->m_nXTicPixel[1]);    // 33.3
     EXPECT_EQ(3 + 167, p->m_nXTicPixel[5]);   // 166.5
     EXPECT_EQ(7 + 87, p->m_nYTicPixel[0][5]);   // 86.5
@@ -81,7 +82,7 @@ TEST(TicPixels, SpacingOfShortEnds)
 
     // An empty plot puts all tics on one pixel, with no spacing.
     p->m_rectPlot.SetRect(40, 90, 40, 90);
-    p->CalcTicMarkPixels();
+    CGraphTestAccess::CalcTicMarkPixels(p);
     for (int i = 0; i <= p->m_nXTicCount; i++)
         EXPECT_EQ(40, p->m_nXTicPixel[i]);
     for (int i = 0; i <= p->m_nYTicCount[0]; i++)
@@ -124,14 +125,14 @@ TEST(TicPixels, MinorOffsetsAt96Dpi)
     // The Y count follows the Y resolution, the X count the X resolution.
     p->m_nLogPixelsY = 300;
     p->m_rectPlot.SetRect(0, 0, 500, 500);
-    p->CalcTicMarkPixels();
+    CGraphTestAccess::CalcTicMarkPixels(p);
     EXPECT_EQ(4, p->m_nMinorTicCount[0]);
     EXPECT_EQ(1, p->m_nMinorTicCount[1]);
     EXPECT_EQ(50, p->m_MinorYLeft.nOffset[0]);
     // Minor tics off: the spacing is kept, the counts are left alone.
     p->m_nMinorTics = 0;
     p->m_nMinorTicCount[0] = -77;
-    p->CalcTicMarkPixels();
+    CGraphTestAccess::CalcTicMarkPixels(p);
     EXPECT_EQ(100, p->m_MinorX.nSpacing);
     EXPECT_EQ(-77, p->m_nMinorTicCount[0]);
 }
@@ -167,7 +168,7 @@ TEST(TicPixels, RightAxisCopiesLeftWhenNotDisplayed)
     EXPECT_EQ(1, p->m_nMinorTicCount[2]);
     // Empty again: the copy returns on the next run.
     g.m_graph.SetYAxisLabel(1, "");
-    p->CalcTicMarkPixels();
+    CGraphTestAccess::CalcTicMarkPixels(p);
     EXPECT_EQ(5, p->m_nYTicCount[1]);
     EXPECT_EQ(p->m_nYTicPixel[0][1], p->m_nYTicPixel[1][1]);
 }

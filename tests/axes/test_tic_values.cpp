@@ -2,6 +2,7 @@
 // constant the third and later entries carry), the narrow, equal, scaled and
 // undividable spans, the fixed tables, and the switch between the modes.
 #include "TestUtil.h"
+#include "axes/AxesMath.h"
 
 #include <math.h>
 #include <vector>
@@ -46,12 +47,11 @@ const TicRow g_rows[] = {
 
 TEST(TicValues, ExampleRows)
 {
-    GraphInHost g(GS_NOWINDOW);
     for (const TicRow& row : g_rows) {
         double table[11];
         for (double& d : table)
             d = -12345.0;
-        const int nLast = g.Prv()->CalcFloatingTics(row.dFirst, row.dSecond, table);
+        const int nLast = CalcFloatingTics(row.dFirst, row.dSecond, table);
         ASSERT_EQ((int)row.table.size() - 1, nLast) << "limits " << row.dFirst << ", " << row.dSecond;
         for (int i = 0; i <= nLast; i++)
             EXPECT_DOUBLE_EQ(row.table[i], table[i]) << "limits " << row.dFirst << ", " << row.dSecond << " #" << i;
@@ -62,25 +62,24 @@ TEST(TicValues, ExampleRows)
 
 TEST(TicValues, ConstantOnlyFromTheThirdEntryAndExactEnds)
 {
-    GraphInHost g(GS_NOWINDOW);
     double table[11];
-    ASSERT_EQ(5, g.Prv()->CalcFloatingTics(0.0, 1.0, table));
+    ASSERT_EQ(5, CalcFloatingTics(0.0, 1.0, table));
     EXPECT_EQ(0.2, table[1]);
     EXPECT_EQ(1 * 0.2 + 0.2 + 5.1e-7, table[2]);
-    ASSERT_EQ(6, g.Prv()->CalcFloatingTics(-3.0, 7.0, table));
+    ASSERT_EQ(6, CalcFloatingTics(-3.0, 7.0, table));
     EXPECT_EQ(-2.0, table[1]);
     EXPECT_EQ(-3.0, table[0]);
     EXPECT_EQ(7.0, table[6]);
-    g.Prv()->CalcFloatingTics(0.0, 0.0001, table);
+    CalcFloatingTics(0.0, 0.0001, table);
     EXPECT_NEAR(4e-5 + 5.1e-11, table[2], 1e-15);
 
     // Limits that cannot be divided keep two entries; a very wide span
     // stays within the table.
-    EXPECT_EQ(1, g.Prv()->CalcFloatingTics(0.0, HUGE_VAL, table));
+    EXPECT_EQ(1, CalcFloatingTics(0.0, HUGE_VAL, table));
     EXPECT_EQ(HUGE_VAL, table[1]);
-    EXPECT_EQ(1, g.Prv()->CalcFloatingTics(sqrt(-1.0), 1.0, table));
+    EXPECT_EQ(1, CalcFloatingTics(sqrt(-1.0), 1.0, table));
     EXPECT_EQ(1.0, table[1]);
-    const int nLast = g.Prv()->CalcFloatingTics(-1.7e308, 1.7e308, table);
+    const int nLast = CalcFloatingTics(-1.7e308, 1.7e308, table);
     ASSERT_GE(nLast, 1);
     ASSERT_LE(nLast, 10);
     EXPECT_EQ(1.7e308, table[nLast]);

@@ -3,6 +3,7 @@
 // conversions back with the exact tic values; the whole-series transform and
 // its bounds on the float's bits.
 #include "TestUtil.h"
+#include "TestAccess.h"
 
 #include <math.h>
 
@@ -60,10 +61,10 @@ TEST(Transforms, DataToPixelRoundsTruncatesAndBounds)
     g.m_graph.SetXAxisLimits(100.0, 0.0);
     EXPECT_EQ(550, g.m_graph.DataToPixelX(0.0));
     double dScale, dOffset;
-    g.Prv()->HorzXform(&dScale, &dOffset);
+    CGraphTestAccess::HorzXform(g.Prv(), &dScale, &dOffset);
     EXPECT_EQ(-5.0, dScale);
     EXPECT_EQ(550.0, dOffset);
-    g.Prv()->VertXform(&dScale, &dOffset, 1);
+    CGraphTestAccess::VertXform(g.Prv(), &dScale, &dOffset, 1);
     EXPECT_EQ(1.0, dScale);
     EXPECT_EQ(120.0, dOffset);
 }
@@ -147,7 +148,7 @@ TEST(Transforms, XformPlotDataBoundsOnTheFloatsExponent)
     ASSERT_EQ(1, g.m_graph.AddPlotData("s", PLOT_YLEFT, x, y, n, 0, 0, 0));
     POINT pts[n + 1];
     memset(pts, 0x5A, sizeof(pts));
-    p->XformPlotData(FindSeries(p, "s"), pts);
+    CGraphTestAccess::XformPlotData(p, FindSeries(p, "s"), pts);
     for (long i = 0; i < n; i++) {
         EXPECT_EQ(expected[i].x, pts[i].x) << i;
         EXPECT_EQ(expected[i].y, pts[i].y) << i;
@@ -160,7 +161,7 @@ TEST(Transforms, XformPlotDataBoundsOnTheFloatsExponent)
     g.m_graph.SetXAxisLimits(0.0, 100.0);
     float xb[] = { 8191.4f, 8191.5f, -8191.6f, -8192.6f };
     ASSERT_EQ(1, g.m_graph.AddPlotData("b", PLOT_YLEFT, xb, xb, 4, 0, 0, 0));
-    p->XformPlotData(FindSeries(p, "b"), pts);
+    CGraphTestAccess::XformPlotData(p, FindSeries(p, "b"), pts);
     EXPECT_EQ(8191, pts[0].x);
     EXPECT_EQ(8192, pts[1].x);
     EXPECT_EQ(-8191, pts[2].x);
@@ -170,7 +171,7 @@ TEST(Transforms, XformPlotDataBoundsOnTheFloatsExponent)
     p->m_rectPlot.SetRect(50, 20, 550, 220);
     ASSERT_EQ(1, g.m_graph.AddPlotData("r", PLOT_YRIGHT, x, y, 3, 0, 0, 0));
     FindSeries(p, "r")->m_lStartIndex = 1;
-    p->XformPlotData(FindSeries(p, "r"), pts);
+    CGraphTestAccess::XformPlotData(p, FindSeries(p, "r"), pts);
     EXPECT_EQ(550, pts[0].x);
     EXPECT_EQ(110, pts[0].y);   // 10 on -100..100: 120 - 10 + 0.50001
     EXPECT_EQ(101, pts[1].x);

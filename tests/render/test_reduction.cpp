@@ -3,6 +3,7 @@
 // equal to the one kept before it, move the region edges down as points are
 // dropped), on data with many runs of duplicates.
 #include "Surface.h"
+#include "TestAccess.h"
 #include <limits>
 
 namespace {
@@ -19,9 +20,9 @@ Expected Reference(CGraphPrv* pGraph, CPlotData* pData)
 {
     Expected e;
     double dXScale, dXOffset, dYScale, dYOffset;
-    pGraph->HorzXform(&dXScale, &dXOffset);
+    CGraphTestAccess::HorzXform(pGraph, &dXScale, &dXOffset);
     dXOffset += 0.50001;
-    pGraph->VertXform(&dYScale, &dYOffset, pData->m_nYAxis);
+    CGraphTestAccess::VertXform(pGraph, &dYScale, &dYOffset, pData->m_nYAxis);
     dYOffset += 0.50001;
 
     std::vector<long> aStart, aEnd;
@@ -146,7 +147,7 @@ TEST(PointReduction, TheFirstIndexOfTheSeriesIsHonoured)
     f.Prv()->OptimizePoints(pData);
     Expected e = Reference(f.Prv(), pData);
     ExpectMatches(e, pData);
-    EXPECT_EQ(f.Prv()->DataToPixelX(x[500]), pData->m_pPointArray[0].x);
+    EXPECT_EQ(CGraphTestAccess::DataToPixelX(f.Prv(), x[500]), pData->m_pPointArray[0].x);
 }
 
 TEST(PointReduction, ExtremeValuesAndOddLengthsMatchTheLiteralWalk)
