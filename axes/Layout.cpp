@@ -78,10 +78,10 @@ void CGraphPrv::TakeOffLegend()
     CRect rectLegend;
     m_legend.GetWindowRect(&rectLegend);
     switch (m_legend.GetPosition()) {
-    case 1: m_rectGraph.top += rectLegend.Height(); break;
-    case 2: m_rectGraph.bottom -= rectLegend.Height(); break;
-    case 3: m_rectGraph.left += rectLegend.Width(); break;
-    case 4: m_rectGraph.right -= rectLegend.Width(); break;
+    case LEGEND_TOP: m_rectGraph.top += rectLegend.Height(); break;
+    case LEGEND_BOTTOM: m_rectGraph.bottom -= rectLegend.Height(); break;
+    case LEGEND_LEFT: m_rectGraph.left += rectLegend.Width(); break;
+    case LEGEND_RIGHT: m_rectGraph.right -= rectLegend.Width(); break;
     }
 }
 

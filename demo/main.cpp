@@ -72,9 +72,9 @@ void SetUpGraph(CGraph& graph, DemoData& data)
     graph.SetYAxisLimits(0.0, 250.0, 1);
     // Fixed tics with minor tics: the grid lines of both Y axes then agree.
     graph.SetTicMarkType(0, 1, NULL);
-    graph.SetGridAttributes(0x1C, RGB(128, 128, 128), PS_DOT);
-    graph.AddReferenceLine("t = 5", 1, 5.0);
-    graph.AddReferenceLine("zero", 0, 0.0);
+    graph.SetGridAttributes(GRID_MINOR | GRID_BOTHWAYS, RGB(128, 128, 128), PS_DOT);
+    graph.AddReferenceLine("t = 5", REFLINE_VERTICAL, 5.0);
+    graph.AddReferenceLine("zero", REFLINE_HORIZONTAL, 0.0);
 }
 
 LRESULT CALLBACK FrameProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)

@@ -116,7 +116,7 @@ CGraphPrv& CGraphPrv::operator=(const CGraphPrv& src)
     m_dRadarXPercent = src.m_dRadarXPercent;
     m_dRadarYPercent = src.m_dRadarYPercent;
 
-    for (int i = 0; i < 6; i++)
+    for (int i = 0; i < LIMIT_SLOTS; i++)
         m_rectLimit[i] = src.m_rectLimit[i];
     return *this;
 }

@@ -66,3 +66,40 @@
 #define GRAPH_COLORS_FIXED      1     // a new series takes the caller's look
 #define GRAPH_COLORS_ROTATING   2     // a new series takes the next entry of the table
 #define GRAPH_COLORS_MATCHING   3     // a new series takes the table entry of its name
+
+// ---- Grid word (m_dwGridType) ----------------------------------------------
+#define GRID_NONE             0x01    // no grid: Plot does not draw one
+#define GRID_MAJOR            0x02    // lines at major tics only (every second fixed tic)
+#define GRID_MINOR            0x04    // lines at major and minor tics
+#define GRID_VERTICAL         0x08    // vertical lines, at the X tics
+#define GRID_HORIZONTAL       0x10    // horizontal lines, at the left Y tics
+#define GRID_BOTHWAYS         0x18    // GRID_VERTICAL | GRID_HORIZONTAL
+
+// ---- Placement of titles (PlaceStringHorizontal, PlaceStringVertical) ------
+#define PLACE_AT_POINT        0x00    // at the x and y given
+#define PLACE_HCENTER         0x01    // horizontal text centred across the plot
+#define PLACE_RIGHTSIDE       0x02    // vertical text at the right side of the graph
+#define PLACE_LEFTSIDE        0x04    // vertical text at the left side of the graph
+#define PLACE_VCENTER         0x08    // vertical text centred along the plot
+
+// ---- Sides of the legend ---------------------------------------------------
+#define LEGEND_TOP            1       // above the graph
+#define LEGEND_BOTTOM         2       // below the graph
+#define LEGEND_LEFT           3       // left of the graph
+#define LEGEND_RIGHT          4       // right of the graph (the default)
+
+// ---- Slots of m_rectLimit: where each printed limit stands -----------------
+#define LIMIT_XMIN            0       // m_dXMin, under the left end of the X axis
+#define LIMIT_XMAX            1       // m_dXMax, under the right end
+#define LIMIT_YLEFT_MAX       2       // m_dYMax[0], at the top of the left axis
+#define LIMIT_YLEFT_MIN       3       // m_dYMin[0], at the bottom of the left axis
+#define LIMIT_YRIGHT_MAX      4       // m_dYMax[1], at the top of the right axis
+#define LIMIT_YRIGHT_MIN      5       // m_dYMin[1], at the bottom of the right axis
+#define LIMIT_SLOTS           6       // entries of m_rectLimit
+
+// ---- Line styles beyond the pen styles (PS_SOLID 0 to PS_DASHDOTDOT 4) -----
+#define LINESTYLE_NONE        5       // the series draws no line, only its marks
+
+// ---- Reference line flags (AddReferenceLine) -------------------------------
+#define REFLINE_HORIZONTAL    0x00    // horizontal, at a value of the left Y axis
+#define REFLINE_VERTICAL      0x01    // vertical, at an X value

@@ -125,7 +125,7 @@ void CGraphPrv::InitMemberVariables(CWnd* pParent)
     CalcTicMarkPixels();
 
     if (!(m_dwStyle & GS_NOWINDOW))
-        m_legend.Create(this, 4);
+        m_legend.Create(this, LEGEND_RIGHT);
 
     // Series and labels that arrived before creation (as from an archive).
     if (m_legend.m_hWnd != NULL) {

@@ -407,7 +407,7 @@ public:
     double m_dRadarYPercent;          // margin on Y in percent
     BOOL m_bRadarPercentControls;     // limits page shows the percent controls
     BOOL m_bRadarAxisControls;        // limits page shows the axis controls
-    CRect m_rectLimit[6];             // hit rectangles of the printed limits
+    CRect m_rectLimit[LIMIT_SLOTS];   // hit rectangles of the printed limits (LIMIT_ slots)
     CLegend m_legend;                 // the legend
     HCURSOR m_hPlotCursor;            // cursor over the plot
     CTypedPtrMap<CMapWordToOb, WORD, CFloatingLabel*> m_mapFloatingLabels;  // floating labels, owned

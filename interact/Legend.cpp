@@ -1,6 +1,7 @@
 // CLegend: the list of series names beside the graph. The list is sorted by
 // name; each entry carries a CLegendData with the series' look.
 #include "interact/Legend.h"
+#include "graph/GraphDefs.h"
 
 CLegendData::CLegendData()
     : m_crLine(0), m_nLineStyle(0), m_nLineWidth(1), m_nAnnotate(0), m_crBackground(0xFFFFFF)
@@ -12,7 +13,7 @@ BEGIN_MESSAGE_MAP(CLegend, CListBox)
 END_MESSAGE_MAP()
 
 CLegend::CLegend()
-    : m_nPosition(4), m_bAutoHide(TRUE), m_bHidden(FALSE), m_nWidth(100), m_nHeight(50),
+    : m_nPosition(LEGEND_RIGHT), m_bAutoHide(TRUE), m_bHidden(FALSE), m_nWidth(100), m_nHeight(50),
       m_bInMenu(FALSE), m_bShown(FALSE), m_bSizing(FALSE)
 {
 }

@@ -21,7 +21,7 @@ public:
     CLegend();
     virtual ~CLegend();
 
-    // Creates the (hidden) list window on a side: 1 top, 2 bottom, 3 left, 4 right.
+    // Creates the (hidden) list window on a side: LEGEND_TOP, LEGEND_BOTTOM, LEGEND_LEFT or LEGEND_RIGHT.
     BOOL Create(CWnd* pParent, int nPosition);
     void Show(BOOL bShow);
     BOOL IsShown() const { return m_bShown; }

@@ -113,7 +113,7 @@ void CGraphPrv::PlaceStringHorizontal(CDC* pDC, int x, int y, CString& str, long
 {
     if (str.IsEmpty())
         return;
-    if (lFlags & 1)
+    if (lFlags & PLACE_HCENTER)
         x = m_rectPlot.left + (m_rectPlot.Width() - pDC->GetTextExtent(str).cx) / 2;
     pDC->TextOut(x, y, str);
 }
@@ -138,14 +138,14 @@ void CGraphPrv::PlaceStringVertical(CDC* pDC, int x, int y, CString& str, long l
         CSelectGuard selectRotated(pDC, &fontRotated);
         pDC->GetTextMetrics(&tm);
         const int nLine = tm.tmHeight + tm.tmExternalLeading;
-        if (lFlags & 8) {
+        if (lFlags & PLACE_VCENTER) {
             y = (m_rectPlot.top + m_rectPlot.bottom + tm.tmAveCharWidth * (nLength - 1)) / 2;
             if (y < m_rectPlot.top || y > m_rectPlot.bottom)
                 y = m_rectPlot.bottom;
         }
-        if (lFlags & 2)
+        if (lFlags & PLACE_RIGHTSIDE)
             x = m_rectGraph.right - nLine - 1;
-        else if (lFlags & 4)
+        else if (lFlags & PLACE_LEFTSIDE)
             x = m_rectGraph.left + 1;
         pDC->TextOut(x, y, str);
         return;
@@ -153,14 +153,14 @@ void CGraphPrv::PlaceStringVertical(CDC* pDC, int x, int y, CString& str, long l
 
     // Any other font is stacked, one character under the other.
     const int nLine = tm.tmHeight + tm.tmExternalLeading;
-    if (lFlags & 8) {
+    if (lFlags & PLACE_VCENTER) {
         y = (m_rectPlot.top + m_rectPlot.bottom - nLine * (nLength + 1)) / 2;
         if (y < m_rectPlot.top || y > m_rectPlot.bottom)
             y = m_rectPlot.top;
     }
-    if (lFlags & 2)
+    if (lFlags & PLACE_RIGHTSIDE)
         x = m_rectGraph.right - tm.tmMaxCharWidth - 1;
-    else if (lFlags & 4)
+    else if (lFlags & PLACE_LEFTSIDE)
         x = m_rectGraph.left + 1;
     for (LPCSTR p = str; *p != '\0'; p = ::CharNextA(p)) {
         const int n = (::IsDBCSLeadByte((BYTE)*p) && p[1] != '\0') ? 2 : 1;
@@ -187,7 +187,7 @@ void PutXNumbers(LabelContext& c)
     CString strLast = c.Format(g->m_strXAxisNumFmt, g->m_dXMin);
     g->GetLabelWExtent(pDC, strLast, 1, &w);
     int x = rectPlot.left - w / 2;
-    g->m_rectLimit[0].SetRect(x, yLabel, x + w, yLabel + c.nLine);
+    g->m_rectLimit[LIMIT_XMIN].SetRect(x, yLabel, x + w, yLabel + c.nLine);
     pDC->TextOut(x, yLabel, strLast);
     int nLeftEnd = x + w + 2;
 
@@ -196,7 +196,7 @@ void PutXNumbers(LabelContext& c)
     const int nLastLength = (int)strlen(c.szBuffer);
     g->GetLabelWExtent(pDC, strEnd, 1, &w);
     const int xRight = rectPlot.right - w / 2;
-    g->m_rectLimit[1].SetRect(xRight, yLabel, xRight + w, yLabel + c.nLine);
+    g->m_rectLimit[LIMIT_XMAX].SetRect(xRight, yLabel, xRight + w, yLabel + c.nLine);
 
     const int nCount = ClampTicCount(g->m_nXTicCount);
     const int nWidth = rectPlot.Width();
@@ -232,7 +232,7 @@ void PutXNumbers(LabelContext& c)
 
         // With minor tics and a grid, the major tics reach below the frame;
         // the outer ones only where their number stands.
-        if (!(g->m_dwGridType & 0x01) && g->m_nMinorTics != 0) {
+        if (!(g->m_dwGridType & GRID_NONE) && g->m_nMinorTics != 0) {
             CPen pen(PS_SOLID, g->m_nGridPenWidth, g->IsColorDevice(pDC) ? g->m_crGrid : 0);
             CSelectGuard selectPen(pDC, &pen);
             for (int i = 1; i < nCount; i++) {
@@ -268,9 +268,9 @@ void PutYNumbers(LabelContext& c, int nAxis, int yTop, int yBottom)
     g->GetLabelWExtent(pDC, strLast, bLeft, &w);
     int x = bLeft ? rectPlot.left - w : xRightSide;
     if (bLeft)
-        g->m_rectLimit[2].SetRect(x, yTop, rectPlot.left, yTop + c.nLine);
+        g->m_rectLimit[LIMIT_YLEFT_MAX].SetRect(x, yTop, rectPlot.left, yTop + c.nLine);
     else
-        g->m_rectLimit[4].SetRect(x, yTop, x + w, yTop + c.nLine);
+        g->m_rectLimit[LIMIT_YRIGHT_MAX].SetRect(x, yTop, x + w, yTop + c.nLine);
     pDC->TextOut(x, yTop, strLast);
 
     // The minimum, at the bottom end; drawn after the middle numbers.
@@ -278,9 +278,9 @@ void PutYNumbers(LabelContext& c, int nAxis, int yTop, int yBottom)
     g->GetLabelWExtent(pDC, strEnd, bLeft, &w);
     const int xEnd = bLeft ? rectPlot.left - w : xRightSide;
     if (bLeft)
-        g->m_rectLimit[3].SetRect(xEnd, yBottom, rectPlot.left, yBottom + c.nLine);
+        g->m_rectLimit[LIMIT_YLEFT_MIN].SetRect(xEnd, yBottom, rectPlot.left, yBottom + c.nLine);
     else
-        g->m_rectLimit[5].SetRect(xEnd, yBottom, xEnd + w, yBottom + c.nLine);
+        g->m_rectLimit[LIMIT_YRIGHT_MIN].SetRect(xEnd, yBottom, xEnd + w, yBottom + c.nLine);
 
     const int nHeight = rectPlot.Height();
     const int nCount = ClampTicCount(g->m_nYTicCount[nAxis]);
@@ -350,8 +350,8 @@ void CGraphPrv::PutLabels(CDC* pDC)
 
     // Titles over and under the plot.
     if (m_rectPlot.top != m_rectGraph.top)
-        PlaceStringHorizontal(pDC, 0, m_rectPlot.top - (3 * c.nLine) / 2, m_strGraphTitle, 1);
-    PlaceStringHorizontal(pDC, 0, m_rectPlot.bottom + (3 * c.nLine) / 2, m_strXAxisLabel, 1);
+        PlaceStringHorizontal(pDC, 0, m_rectPlot.top - (3 * c.nLine) / 2, m_strGraphTitle, PLACE_HCENTER);
+    PlaceStringHorizontal(pDC, 0, m_rectPlot.bottom + (3 * c.nLine) / 2, m_strXAxisLabel, PLACE_HCENTER);
 
     if (!(m_dwStyle & GS_NOPLOT) && !m_strXAxisNumFmt.IsEmpty())
         PutXNumbers(c);
@@ -361,14 +361,14 @@ void CGraphPrv::PutLabels(CDC* pDC)
     const int yBottom = m_rectPlot.bottom - c.nLine / 2;
 
     if (m_rectPlot.left != m_rectGraph.left)
-        PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[0], 0x0C);
+        PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[0], PLACE_VCENTER | PLACE_LEFTSIDE);
     if (!m_strYAxisNumFmt[0].IsEmpty())
         PutYNumbers(c, 0, yTop, yBottom);
 
     // The right axis shows only with a title of its own.
     if (!m_strYAxisLabel[1].IsEmpty()) {
         if (m_rectPlot.right + 1 != m_rectGraph.right)
-            PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[1], 0x0A);
+            PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[1], PLACE_VCENTER | PLACE_RIGHTSIDE);
         if (!m_strYAxisNumFmt[1].IsEmpty())
             PutYNumbers(c, 1, yTop, yBottom);
     }

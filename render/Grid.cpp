@@ -42,7 +42,7 @@ int CGraphPrv::ShowGrid(DWORD dwGridType)
 {
     // A grid cannot go with floating tics on the left axis and a shown right axis.
     if (m_nYTicType[0] == 1 && m_bRightAxisDisplayed) {
-        m_dwGridType = 1;
+        m_dwGridType = GRID_NONE;
         return GRAPH_NOTAVAILABLE;
     }
     m_dwGridType = dwGridType;
@@ -81,11 +81,11 @@ void CGraphPrv::PlotGrid(CDC* pDC)
 
     // Minor lines and the major step follow the X axis' tic type, for the
     // horizontal lines too.
-    const BOOL bMinor = (m_dwGridType & 0x04) && m_nXTicType != 0 && m_nMinorTics != 0;
-    const int iStep = ((m_dwGridType & 0x02) && m_nXTicType == 0) ? 2 : 1;
+    const BOOL bMinor = (m_dwGridType & GRID_MINOR) && m_nXTicType != 0 && m_nMinorTics != 0;
+    const int iStep = ((m_dwGridType & GRID_MAJOR) && m_nXTicType == 0) ? 2 : 1;
 
     CGridLines lines;
-    if (m_dwGridType & 0x08) {
+    if (m_dwGridType & GRID_VERTICAL) {
         const int nTop = m_rectPlot.top + 1;
         const int nBottom = m_rectPlot.bottom;
         const int nCount = m_nXTicCount > 10 ? 10 : m_nXTicCount;
@@ -109,7 +109,7 @@ void CGraphPrv::PlotGrid(CDC* pDC)
             }
         }
     }
-    if (m_dwGridType & 0x10) {
+    if (m_dwGridType & GRID_HORIZONTAL) {
         const int nLeft = m_rectPlot.left + 1;
         const int nRight = m_rectPlot.right;
         const int nCount = m_nYTicCount[0] > 10 ? 10 : m_nYTicCount[0];

@@ -65,9 +65,9 @@ int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
 
             // Floating left tics and a shown right axis allow no grid, for good.
             if (m_nYTicType[0] == 1 && m_bRightAxisDisplayed)
-                m_dwGridType = 1;
+                m_dwGridType = GRID_NONE;
             PlotTics(pDC);
-            if (!(m_dwGridType & 0x01))
+            if (!(m_dwGridType & GRID_NONE))
                 PlotGrid(pDC);
             DrawReferenceLines(pDC);
         }
@@ -103,7 +103,7 @@ void CGraphPrv::PlotPoints(CDC* pDC)
             m_mapPlotData.GetNextAssoc(pos, strName, pData);
             if (!pData->m_listAreas.IsEmpty())
                 bAnyArea = true;
-            if (pData->m_nLineStyle != 5 && pData->m_lPoints >= 1)
+            if (pData->m_nLineStyle != LINESTYLE_NONE && pData->m_lPoints >= 1)
                 PlotPixels(pDC, pData);
             if (pData->m_nAnnotate != 0)
                 AnnotatePlotData(pDC, pData);

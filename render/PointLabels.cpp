@@ -131,5 +131,5 @@ void CGraphPrv::DrawPointLabel(CDC* pDC, double dX, double dY, int nYAxis, COLOR
         else
             y = py - (nGap + nLine + str.GetLength() * nLine);
     }
-    PlaceStringVertical(pDC, x, y, str, 0);
+    PlaceStringVertical(pDC, x, y, str, PLACE_AT_POINT);
 }

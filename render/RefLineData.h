@@ -4,7 +4,6 @@
 
 #include "afx/afx.h"
 
-#define REFLINE_VERTICAL 0x01   // set: vertical at an X value; clear: horizontal at a left Y value
 
 class AFX_EXT_CLASS CRefLineData : public CObject
 {

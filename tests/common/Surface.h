@@ -186,7 +186,7 @@ public:
     PlotFixture(int nWidth = 400, int nHeight = 300) : CanvasGraph(nWidth, nHeight, 0, CANVAS)
     {
         m_graph.SetBackgroundColor(BACKGROUND);
-        m_graph.SetGridAttributes(1, FRAME, PS_SOLID);
+        m_graph.SetGridAttributes(GRID_NONE, FRAME, PS_SOLID);
         m_graph.SetXAxisLimits(0.0, 1.0);
         m_graph.SetYAxisLimits(0.0, 10.0, 0);
         m_graph.SetYAxisLimits(100.0, 200.0, 1);

@@ -27,11 +27,11 @@ struct CopyTest : testing::Test {
     {
         CClientDC screen(NULL);
         src.g.SetXAxisLimits(0, 260); src.g.SetYAxisLimits(100, 0, 1); src.g.SetTicMarkType(1, 1, &screen);
-        src.g.SetBackgroundColor(BACKGROUND); src.g.SetGridAttributes(1, FRAME, 0); src.g.SetRadarPercent(1, 2);
-        src.g.AddReferenceLine("A", 1, 2.0); src.g.AddReferenceLine("B", 0, 0.5); src.g.AddReferenceLine("C", 1, 0.25);
+        src.g.SetBackgroundColor(BACKGROUND); src.g.SetGridAttributes(GRID_NONE, FRAME, 0); src.g.SetRadarPercent(1, 2);
+        src.g.AddReferenceLine("A", REFLINE_VERTICAL, 2.0); src.g.AddReferenceLine("B", REFLINE_HORIZONTAL, 0.5); src.g.AddReferenceLine("C", REFLINE_VERTICAL, 0.25);
         src.g.AddPlotData("s1", PLOT_YLEFT, g_afX, g_afY, 3, 0xFF, 0, 0); src.g.AddPlotData("s2", PLOT_YLEFT, g_afX, g_afY, 3, 0xFF, 0, 0);
-        dst.g.SetTicMarkType(1, 1, &screen); dst.g.SetGraphTitle("D"); dst.g.AddReferenceLine("A", 0, 5.0);
-        dst.g.AddReferenceLine("D", 0, 0.75); dst.g.AddPlotData("own", PLOT_YLEFT, g_afX, g_afY, 3, 0xFF, 0, 0);
+        dst.g.SetTicMarkType(1, 1, &screen); dst.g.SetGraphTitle("D"); dst.g.AddReferenceLine("A", REFLINE_HORIZONTAL, 5.0);
+        dst.g.AddReferenceLine("D", REFLINE_HORIZONTAL, 0.75); dst.g.AddPlotData("own", PLOT_YLEFT, g_afX, g_afY, 3, 0xFF, 0, 0);
         ASSERT_TRUE(s->m_nXTicCount == 3 && d->m_nXTicCount == 5 && s->m_mapPlotData.GetCount() == 2);
         ASSERT_TRUE(s->m_nMinorTicCount[0] != 0 && d->m_nMinorTicCount[0] != 0 && d->m_dwState == GST_RADAR_DBLCLK);
     }

@@ -12,7 +12,7 @@ void OneLife(CWnd* pParent, bool bWindow, std::vector<float>& x, std::vector<dou
     graph.CreateGraph(pParent, NULL, rect, bWindow ? 0 : GS_NOWINDOW, 1, 63);
     graph.AddPlotData("float", PLOT_YLEFT, x.data(), x.data(), (long)x.size(), 0xFF, 0, 0);
     graph.AddPlotData("double", PLOT_YRIGHT, d.data(), d.data(), (long)d.size(), 0xFF00, 0, 0);
-    graph.m_pGraphPrv->AddReferenceLine("ref", 1, 0.5);
+    graph.m_pGraphPrv->AddReferenceLine("ref", REFLINE_VERTICAL, 0.5);
     LOGFONT lf;
     int nSize;
     DWORD crText;

@@ -71,11 +71,11 @@ TEST(Pipeline, ReferenceLinesStandStrictlyBetweenTheLimits)
 {
     PlotFixture f;
     const CRect& r = f.m_rectPlot;
-    f.m_graph.AddReferenceLine("on min", 1, 0.0);
-    f.m_graph.AddReferenceLine("on max", 1, 1.0);
-    f.m_graph.AddReferenceLine("middle", 1, 0.5);
-    f.m_graph.AddReferenceLine("level", 0, 2.5);
-    f.m_graph.AddReferenceLine("on y max", 0, 10.0);
+    f.m_graph.AddReferenceLine("on min", REFLINE_VERTICAL, 0.0);
+    f.m_graph.AddReferenceLine("on max", REFLINE_VERTICAL, 1.0);
+    f.m_graph.AddReferenceLine("middle", REFLINE_VERTICAL, 0.5);
+    f.m_graph.AddReferenceLine("level", REFLINE_HORIZONTAL, 2.5);
+    f.m_graph.AddReferenceLine("on y max", REFLINE_HORIZONTAL, 10.0);
     // Drawn alone with a pen of the test's own, the lines on a limit would
     // show on the frame's place.
     {
@@ -144,7 +144,7 @@ TEST(Pipeline, ABlackAndWhiteContextDrawsBlackOnWhite)
     PlotFixture f;
     f.Add("line", Xs(), Flat(5.0f), BLUE);
     PlotFixture::AddRegion(f.Series("line"), 2, 5, MAGENTA, PS_DOT);
-    f.m_graph.AddReferenceLine("middle", 1, 0.55);
+    f.m_graph.AddReferenceLine("middle", REFLINE_VERTICAL, 0.55);
     EXPECT_EQ(1, f.Prv()->IsColorDevice(f.DC()));   // a screen-like memory context
     // A printout with WINDING fill mode is black and white.
     f.DC()->SetPrinting(TRUE);
@@ -259,9 +259,9 @@ TEST(Pipeline, TheContextIsGivenBackAsItWas)
     PlotFixture f;
     f.Add("dashed", Xs(), Flat(5.0f), BLUE, PS_DASH);
     PlotFixture::AddRegion(f.Series("dashed"), 2, 4, MAGENTA, PS_SOLID);
-    f.m_graph.AddReferenceLine("middle", 1, 0.5);
+    f.m_graph.AddReferenceLine("middle", REFLINE_VERTICAL, 0.5);
     f.m_graph.SetTicMarkType(0, 1, NULL);
-    f.m_graph.SetGridAttributes(0x1C, MAGENTA, PS_DASH);
+    f.m_graph.SetGridAttributes(GRID_MINOR | GRID_BOTHWAYS, MAGENTA, PS_DASH);
     f.m_graph.SetXAxisNumFmt("%.1f");
     f.m_graph.SetXAxisLabel("X");
     f.m_graph.SetYAxisLabel(0, "Y");

@@ -143,11 +143,11 @@ TEST(AxisText, EndNumbersAndTheSixLimitRectangles)
     const int L = LineOf(g);
     const CRect r = p->m_rectPlot;
     const int yLabel = r.bottom + L / 2 + 1, yTop = r.top - L / 2, yBottom = r.bottom - L / 2;
-    const char* aszEnds[6] = { "-2.0", "3.0", "10.00", "-1.00", "7.500", "0.500" };
-    int w[6];
-    for (int i = 0; i < 6; i++)
+    const char* aszEnds[LIMIT_SLOTS] = { "-2.0", "3.0", "10.00", "-1.00", "7.500", "0.500" };
+    int w[LIMIT_SLOTS];
+    for (int i = 0; i < LIMIT_SLOTS; i++)
         w[i] = LabelWidth(g, aszEnds[i]);
-    const CRect expected[6] = {
+    const CRect expected[LIMIT_SLOTS] = {
         CRect(r.left - w[0] / 2, yLabel, r.left - w[0] / 2 + w[0], yLabel + L),
         CRect(r.right - w[1] / 2, yLabel, r.right - w[1] / 2 + w[1], yLabel + L),
         CRect(r.left - w[2], yTop, r.left, yTop + L),
@@ -156,7 +156,7 @@ TEST(AxisText, EndNumbersAndTheSixLimitRectangles)
         CRect(r.right + 2, yBottom, r.right + 2 + w[5], yBottom + L),
     };
     // Each end number stands at the top left corner of its rectangle.
-    for (int i = 0; i < 6; i++) {
+    for (int i = 0; i < LIMIT_SLOTS; i++) {
         EXPECT_EQ(expected[i], p->m_rectLimit[i]) << aszEnds[i];
         EXPECT_EQ(expected[i].TopLeft(), Where(calls, aszEnds[i])) << aszEnds[i];
     }
@@ -175,7 +175,7 @@ TEST(AxisText, EndNumbersAndTheSixLimitRectangles)
             }
         EXPECT_GT(nBlue, 0) << i;
     }
-    const CRect& rc0 = p->m_rectLimit[0];
+    const CRect& rc0 = p->m_rectLimit[LIMIT_XMIN];
     EXPECT_EQ(0, g.m_dib.Count(rc0.left - 6, rc0.top, rc0.left, rc0.bottom, WHITE, true));
 }
 
@@ -185,13 +185,13 @@ TEST(AxisText, WhichAxesWriteTheirNumbers)
     CanvasGraph g(400, 300, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
     const CRect rectSentinel(1, 2, 3, 4);
-    for (int i = 0; i < 6; i++)
+    for (int i = 0; i < LIMIT_SLOTS; i++)
         p->m_rectLimit[i] = rectSentinel;
     p->SetYAxisLabel(1, "R");
     std::vector<TextCall> calls = Labels(p);
     ASSERT_EQ(1u, calls.size());   // the right title alone
     EXPECT_EQ("R", calls[0].text);
-    for (int i = 0; i < 6; i++)
+    for (int i = 0; i < LIMIT_SLOTS; i++)
         EXPECT_EQ(rectSentinel, p->m_rectLimit[i]) << i;
 
     // The right numbers need the right title, not a left format; they
@@ -207,13 +207,13 @@ TEST(AxisText, WhichAxesWriteTheirNumbers)
 
     // The no-plot style drops the X numbers only.
     CanvasGraph h(400, 300, GS_NOPLOT);
-    h.Prv()->m_rectLimit[0] = rectSentinel;
+    h.Prv()->m_rectLimit[LIMIT_XMIN] = rectSentinel;
     h.Prv()->SetXAxisNumFmt("%.1f");
     h.Prv()->SetYAxisNumFmt(0, "%.1f");
     h.Prv()->SetXAxisLimits(5.0, 6.0);
     h.Prv()->SetYAxisLimits(7.0, 8.0, 0);
     calls = Labels(h.Prv());
-    EXPECT_EQ(rectSentinel, h.Prv()->m_rectLimit[0]);
+    EXPECT_EQ(rectSentinel, h.Prv()->m_rectLimit[LIMIT_XMIN]);
     EXPECT_EQ(0, CountText(calls, "5.0") + CountText(calls, "6.0"));
     EXPECT_EQ(2, CountText(calls, "7.0") + CountText(calls, "8.0"));
 }
@@ -499,7 +499,7 @@ TEST(AxisText, TicExtensionsStandUnderDrawnNumbers)
     const COLORREF crGrid = 0x0000C0;
     p->SetXAxisNumFmt("%.1f");
     p->m_nMinorTics = 1;
-    p->m_dwGridType = 0x18;
+    p->m_dwGridType = GRID_BOTHWAYS;
     p->m_crGrid = crGrid;
     const CRect r = p->m_rectPlot;
     const int nTicOut = g.Metrics().tmHeight / 4 + 1;
@@ -515,7 +515,7 @@ TEST(AxisText, TicExtensionsStandUnderDrawnNumbers)
     EXPECT_EQ(0, g.m_dib.Count(an[1], r.bottom, an[1] + 1, r.bottom + 20, crGrid));
     // No grid: no extensions at all.
     g.m_dib.Fill(WHITE);
-    p->m_dwGridType = 0x01;
+    p->m_dwGridType = GRID_NONE;
     p->PutLabels(g.DC());
     EXPECT_EQ(0, g.m_dib.CountAll(crGrid));
 }

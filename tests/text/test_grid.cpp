@@ -42,7 +42,7 @@ bool HasHorizontalLine(const Dib& dib, const CRect& r, int y)
 
 TEST(Grid, FixedTicsByTheBitsOfTheType)
 {
-    // 0x0A: vertical lines at every second tic from 2; 0x18: both ways at
+    // Major and vertical: lines at every second tic from 2; both ways: at
     // every tic; no direction bit, or 0: nothing. The end tics lie on the
     // frame and get no line; nothing lands outside the plot.
     const struct
@@ -50,10 +50,10 @@ TEST(Grid, FixedTicsByTheBitsOfTheType)
         DWORD dwType;
         std::vector<int> vertical, horizontal;
     } cases[] = {
-        { 0x0A, { 2, 4, 6, 8 }, {} },
-        { 0x18, { 1, 2, 3, 4, 5, 6, 7, 8, 9 }, { 1, 2, 3, 4, 5, 6, 7, 8, 9 } },
-        { 0x02, {}, {} },
-        { 0x04, {}, {} },
+        { GRID_MAJOR | GRID_VERTICAL, { 2, 4, 6, 8 }, {} },
+        { GRID_BOTHWAYS, { 1, 2, 3, 4, 5, 6, 7, 8, 9 }, { 1, 2, 3, 4, 5, 6, 7, 8, 9 } },
+        { GRID_MAJOR, {}, {} },
+        { GRID_MINOR, {}, {} },
         { 0, {}, {} },
     };
     for (const auto& c : cases) {
@@ -81,9 +81,9 @@ TEST(Grid, FixedTicsByTheBitsOfTheType)
 
 TEST(Grid, FloatingTicsDrawEveryMajorTic)
 {
-    // The major bit (0x02) and the minor bit without minor tics (0x04) both
+    // The major bit and the minor bit without minor tics both
     // give a line at every interior tic.
-    for (DWORD dwType : { (DWORD)0x0A, (DWORD)0x0C }) {
+    for (DWORD dwType : { (DWORD)(GRID_MAJOR | GRID_VERTICAL), (DWORD)(GRID_MINOR | GRID_VERTICAL) }) {
         CanvasGraph g(500, 400);
         CGraphPrv* p = g.Prv();
         ASSERT_EQ(1, p->SetTicMarkType(1, 0, NULL));
@@ -120,7 +120,7 @@ TEST(Grid, MinorLinesOfFloatingTics)
     p->m_nMinorTicCount[1] = 1;
     p->m_MinorYLeft.nSpacing = 50;
     p->m_MinorYLeft.nOffset[0] = 25;
-    p->m_dwGridType = 0x1C;
+    p->m_dwGridType = GRID_MINOR | GRID_BOTHWAYS;
     p->m_crGrid = crGrid;
     p->PlotGrid(g.DC());
     const CRect r = p->m_rectPlot;
@@ -137,7 +137,7 @@ TEST(Grid, DashedGridGapsTakeThePlotBackground)
     CanvasGraph g;
     CGraphPrv* p = g.Prv();
     p->SetTicMarkType(0, 0, NULL);
-    p->SetGridAttributes(0x08, crGrid, PS_DASH);
+    p->SetGridAttributes(GRID_VERTICAL, crGrid, PS_DASH);
     p->m_crBackground = 0x00E0E0;
     p->PlotGrid(g.DC());
     const CRect r = p->m_rectPlot;
@@ -154,14 +154,14 @@ TEST(Grid, ShowGridRefusesWithFloatingLeftTicsAndARightAxis)
 {
     CanvasGraph g;
     CGraph& graph = g.m_graph;
-    EXPECT_EQ(GRAPH_OK, graph.ShowGrid(0x18));
-    EXPECT_EQ(0x18u, g.Prv()->m_dwGridType);
+    EXPECT_EQ(GRAPH_OK, graph.ShowGrid(GRID_BOTHWAYS));
+    EXPECT_EQ((DWORD)GRID_BOTHWAYS, g.Prv()->m_dwGridType);
     graph.SetYAxisLabel(1, "right");
     ASSERT_EQ(1, g.Prv()->m_nYTicType[0]);
-    EXPECT_EQ(GRAPH_NOTAVAILABLE, graph.ShowGrid(0x18));
-    EXPECT_EQ(1u, g.Prv()->m_dwGridType);
+    EXPECT_EQ(GRAPH_NOTAVAILABLE, graph.ShowGrid(GRID_BOTHWAYS));
+    EXPECT_EQ((DWORD)GRID_NONE, g.Prv()->m_dwGridType);
     // SetGridAttributes hides the refusal and stores colour and style.
-    EXPECT_EQ(GRAPH_OK, graph.SetGridAttributes(0x18, 0x123456, 3));
+    EXPECT_EQ(GRAPH_OK, graph.SetGridAttributes(GRID_BOTHWAYS, 0x123456, 3));
     DWORD dwType = 0, crColor = 0;
     int nStyle = 0;
     EXPECT_EQ(GRAPH_OK, graph.GetGridAttributes(&dwType, &crColor, &nStyle));
@@ -170,8 +170,8 @@ TEST(Grid, ShowGridRefusesWithFloatingLeftTicsAndARightAxis)
     EXPECT_EQ(3, nStyle);
     // Fixed tics on the left axis allow the grid again.
     g.Prv()->SetTicMarkType(0, 0, NULL);
-    EXPECT_EQ(GRAPH_OK, graph.ShowGrid(0x1A));
-    EXPECT_EQ(0x1Au, g.Prv()->m_dwGridType);
+    EXPECT_EQ(GRAPH_OK, graph.ShowGrid(GRID_MAJOR | GRID_BOTHWAYS));
+    EXPECT_EQ((DWORD)(GRID_MAJOR | GRID_BOTHWAYS), g.Prv()->m_dwGridType);
 }
 
 TEST(Grid, ScaledContextDrawsGridInDevicePixels)
@@ -183,7 +183,7 @@ TEST(Grid, ScaledContextDrawsGridInDevicePixels)
     CDC* pDC = g.DC();
     p->SizeGraph(pDC, 0, 0, 200, 150, FALSE);
     p->SetTicMarkType(0, 0, NULL);
-    p->SetGridAttributes(0x08, crGrid, PS_SOLID);
+    p->SetGridAttributes(GRID_VERTICAL, crGrid, PS_SOLID);
     p->m_nGridPenWidth = 1;
     pDC->SetMapMode(MM_ANISOTROPIC);
     pDC->SetWindowExt(200, 150);
@@ -203,7 +203,7 @@ TEST(Grid, AWholePaintPutsTicsOverTheBackgroundBetweenGridLines)
     CGraphPrv* p = g.Prv();
     CGraph& graph = g.m_graph;
     graph.SetTicMarkType(0, 0, NULL);
-    graph.SetGridAttributes(0x1A, crGrid, PS_SOLID);
+    graph.SetGridAttributes(GRID_MAJOR | GRID_BOTHWAYS, crGrid, PS_SOLID);
     graph.SetBackgroundColor(0xF0F0F0);
     graph.SetXAxisNumFmt("%.1f");
     graph.SetXAxisLimits(0.0, 10.0);
@@ -221,7 +221,7 @@ TEST(Grid, AWholePaintPutsTicsOverTheBackgroundBetweenGridLines)
         }
     }
     // The X numbers stand in their rectangles outside the plot.
-    const CRect& rc = p->m_rectLimit[0];
+    const CRect& rc = p->m_rectLimit[LIMIT_XMIN];
     EXPECT_GT(g.m_dib.Count(rc.left, rc.top, rc.right, rc.bottom, 0x808080, true), 0);
     EXPECT_GE(rc.top, r.bottom);
 }
