@@ -3,6 +3,7 @@
 // (SizeGraph), and the smallest usable graph. The margins follow the font
 // and the widest number the axes can print.
 #include "graph/GraphPrv.h"
+#include "render/TextFont.h"
 #include <stdio.h>
 
 namespace {
@@ -17,21 +18,6 @@ int LineHeight(const TEXTMETRIC& tm)
 int TitleWidth(const TEXTMETRIC& tm)
 {
     return (tm.tmPitchAndFamily & TMPF_TRUETYPE) ? LineHeight(tm) : tm.tmMaxCharWidth;
-}
-
-// A font for a printer or plotter, made at the device's resolution; null for
-// other devices, which use the graph's own font.
-CFont* CreateDeviceFont(CDC* pDC, LOGFONT& logFont, int nPointSize)
-{
-    int nTechnology = pDC->GetDeviceCaps(TECHNOLOGY);
-    if (nTechnology != DT_PLOTTER && nTechnology != DT_RASPRINTER)
-        return NULL;
-    LONG lOldHeight = logFont.lfHeight;
-    logFont.lfHeight = nPointSize;
-    CFont* pFont = new CFont;
-    pFont->CreatePointFontIndirect(&logFont, pDC);
-    logFont.lfHeight = lOldHeight;
-    return pFont;
 }
 
 } // namespace
@@ -97,7 +83,7 @@ int CGraphPrv::ReSizeGraph(CRect* pRect)
         TEXTMETRIC tm;
         int D, S;
         {
-            CSelectGuard selectFont(&dc, &m_font);
+            CGraphTextFont font(&dc, this);
             dc.GetTextMetrics(&tm);
             D = GetAveWidthOfNumericChar(&dc) + tm.tmOverhang;
             S = dc.GetTextExtent(GetMaxLenString()).cx;
@@ -140,15 +126,8 @@ int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bR
     m_rectGraph.SetRect(x, y, x + nWidth, y + nHeight);
     TakeOffLegend();
 
-    LONG lOldHeight = m_logFont.lfHeight;
-    CFont* pDeviceFont = NULL;
-    try {
-        pDeviceFont = CreateDeviceFont(pDC, m_logFont, m_nPointSize);
-    } catch (CException* e) {
-        e->Delete();
-    }
     {
-        CSelectGuard selectFont(pDC, pDeviceFont != NULL ? pDeviceFont : &m_font);
+        CGraphTextFont font(pDC, this);
         TEXTMETRIC tm;
         pDC->GetTextMetrics(&tm);
         int S = pDC->GetTextExtent(GetMaxLenString()).cx;
@@ -156,7 +135,6 @@ int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bR
         CalcTicMarkPixels();
         m_bPointsStale = TRUE;
     }
-    m_logFont.lfHeight = lOldHeight;
 
     UpdateAllFloatingLabelPositions();
     if (m_strXAxisNumFmt != m_strLastXNumFmt || m_strYAxisNumFmt[0] != m_strLastYNumFmt) {
@@ -165,30 +143,19 @@ int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bR
         if (m_dwState & GST_CROSSHAIR)
             m_crossHair.Resize();
     }
-    delete pDeviceFont;
     return GRAPH_OK;
 }
 
 int CGraphPrv::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
 {
-    // Works on a copy of the font description: the graph does not change.
-    static LOGFONT s_logFont;
-    s_logFont = m_logFont;
-    CFont* pDeviceFont = NULL;
-    try {
-        pDeviceFont = CreateDeviceFont(pDC, s_logFont, m_nPointSize);
-    } catch (CException* e) {
-        e->Delete();
-    }
     TEXTMETRIC tm;
     int D, S;
     {
-        CSelectGuard selectFont(pDC, pDeviceFont != NULL ? pDeviceFont : &m_font);
+        CGraphTextFont font(pDC, this);
         pDC->GetTextMetrics(&tm);
         D = GetAveWidthOfNumericChar(pDC);
         S = pDC->GetTextExtent(GetMaxLenString()).cx;
     }
-    delete pDeviceFont;
 
     const int L = LineHeight(tm);
     const BOOL bTrueType = (tm.tmPitchAndFamily & TMPF_TRUETYPE) != 0;

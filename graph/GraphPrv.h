@@ -215,9 +215,10 @@ public:
     int AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark);
     int AnnotateLine(CString& strName, int nMark, int nStep);
     int LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC);
-    // The font of the marks and label texts: the graph's font at its point
-    // size for the device of pDC, turned by nEscapement tenths of a degree.
-    void CreateMarkFont(CFont& font, CDC* pDC, int nEscapement);
+    // The graph's font at its point size for the device of pDC (null: the
+    // screen), turned by nEscapement tenths of a degree: the font of marks,
+    // point labels, rotated titles, and of all text on a printer.
+    void CreateDeviceFont(CFont& font, CDC* pDC, int nEscapement);
 
 protected:
     // ---- graph/ ---------------------------------------------------------------

@@ -11,6 +11,7 @@
 // [SECTION] Numbers of the Y axes
 // [SECTION] PutLabels
 #include "graph/GraphPrv.h"
+#include "render/DrawerPen.h"
 #include "render/TextFont.h"
 #include "sheet/IntlString.h"
 #include <math.h>
@@ -129,12 +130,8 @@ void CGraphPrv::PlaceStringVertical(CDC* pDC, int x, int y, CString& str, long l
 
     if (tm.tmPitchAndFamily & TMPF_TRUETYPE) {
         // A TrueType font turns: the text reads upward from its lower end.
-        LOGFONT logFont = m_logFont;
-        logFont.lfHeight = m_nPointSize;
-        logFont.lfEscapement = 900;
-        logFont.lfOrientation = 900;
         CFont fontRotated;
-        fontRotated.CreatePointFontIndirect(&logFont, IsPrinterOrPlotter(pDC) ? pDC : NULL);
+        CreateDeviceFont(fontRotated, IsPrinterOrPlotter(pDC) ? pDC : NULL, 900);
         CSelectGuard selectRotated(pDC, &fontRotated);
         pDC->GetTextMetrics(&tm);
         const int nLine = tm.tmHeight + tm.tmExternalLeading;
@@ -233,7 +230,7 @@ void PutXNumbers(LabelContext& c)
         // With minor tics and a grid, the major tics reach below the frame;
         // the outer ones only where their number stands.
         if (!(g->m_dwGridType & GRID_NONE) && g->m_nMinorTics != 0) {
-            CPen pen(PS_SOLID, g->m_nGridPenWidth, g->IsColorDevice(pDC) ? g->m_crGrid : 0);
+            CDrawerPen pen(PS_SOLID, g->m_nGridPenWidth, g->m_crGrid, g->IsColorDevice(pDC));
             CSelectGuard selectPen(pDC, &pen);
             for (int i = 1; i < nCount; i++) {
                 if ((i == 1 && !bFirstDrawn) || (i == nCount - 1 && !bLastDrawn))

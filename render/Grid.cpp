@@ -1,6 +1,7 @@
 // The grid: its settings, and the lines across the plot at the tics of the
 // X axis and of the left Y axis.
 #include "graph/GraphPrv.h"
+#include "render/DrawerPen.h"
 
 namespace {
 
@@ -75,7 +76,7 @@ void CGraphPrv::PlotGrid(CDC* pDC)
     // The pen is made before the guard, so that it is deselected before it
     // is deleted.
     const BOOL bColor = IsColorDevice(pDC);
-    CPen pen(m_dwGridStyle, m_nGridPenWidth, bColor ? m_crGrid : 0);
+    CDrawerPen pen(m_dwGridStyle, m_nGridPenWidth, m_crGrid, bColor);
     CSaveDCGuard saveDC(pDC);
     pDC->SelectObject(&pen);
 

@@ -122,7 +122,7 @@ public:
         m_brush.CreateSolidBrush(crColor);
         if (nPenWidth > 0)
             m_pen.CreatePen(PS_SOLID, nPenWidth, crColor);
-        pGraph->CreateMarkFont(m_font, pDC, 0);
+        pGraph->CreateDeviceFont(m_font, pDC, 0);
         pDC->SelectObject(&m_brush);
         pDC->SelectObject(&m_pen);   // nothing happens without a pen
         pDC->SelectObject(&m_font);
@@ -139,16 +139,6 @@ private:
 };
 
 } // namespace
-
-void CGraphPrv::CreateMarkFont(CFont& font, CDC* pDC, int nEscapement)
-{
-    // The graph's font at its point size for this device, so that a mark
-    // keeps its size relative to the text on screen and on paper.
-    LOGFONT logFont = m_logFont;
-    logFont.lfHeight = m_nPointSize;
-    logFont.lfEscapement = nEscapement;
-    font.CreatePointFontIndirect(&logFont, pDC);
-}
 
 void CGraphPrv::Annotate(CDC* pDC, double dX, double dY, int nYAxis, int nMark)
 {

@@ -4,6 +4,7 @@
 // labels, then the series), and the loop over the series under the lock.
 // Everything is drawn straight onto the context; no picture is kept.
 #include "graph/GraphPrv.h"
+#include "render/DrawerPen.h"
 #include "series/PlotData.h"
 
 void CGraphPrv::OnPaint()
@@ -55,8 +56,7 @@ int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
             // grid's width.
             CBrush brushBackground;
             brushBackground.CreateSolidBrush(bColor ? m_crBackground : RGB(255, 255, 255));
-            CPen penFrame;
-            penFrame.CreatePen(PS_SOLID, 1, bColor ? m_crGrid : 0);
+            CDrawerPen penFrame(PS_SOLID, 1, m_crGrid, bColor);
             CSaveDCGuard saveDC(pDC);
             pDC->SetTextColor(bColor ? m_crText : 0);
             pDC->SelectObject(&brushBackground);

@@ -3,6 +3,7 @@
 // through CPlotData::DrawLabels; LabelPoint draws one at once, into a given
 // context or straight onto the window.
 #include "graph/GraphPrv.h"
+#include "render/DrawerPen.h"
 #include "render/AnnotationMark.h"
 #include "series/PlotData.h"
 
@@ -75,8 +76,7 @@ void CGraphPrv::DrawPointLabel(CDC* pDC, double dX, double dY, int nYAxis, COLOR
     const COLORREF crMark = bColor ? crColor : 0;
     CBrush brush;
     brush.CreateSolidBrush(crMark);
-    CPen pen;
-    pen.CreatePen(PS_SOLID, m_nGridPenWidth, crMark);
+    CDrawerPen pen(PS_SOLID, m_nGridPenWidth, crMark);
     CSelectGuard selectBrush(pDC, &brush);
     CSelectGuard selectPen(pDC, &pen);
 
@@ -89,7 +89,7 @@ void CGraphPrv::DrawPointLabel(CDC* pDC, double dX, double dY, int nYAxis, COLOR
     const int py = DataToPixelY(dY, nYAxis);
     {
         CFont fontMark;
-        CreateMarkFont(fontMark, pDC, 0);
+        CreateDeviceFont(fontMark, pDC, 0);
         CSelectGuard selectFont(pDC, &fontMark);
         DrawAnnotationMark(pDC, px, py, nMark);
     }
@@ -98,7 +98,7 @@ void CGraphPrv::DrawPointLabel(CDC* pDC, double dX, double dY, int nYAxis, COLOR
 
     // The text runs upward: its metrics are those of the turned mark font.
     CFont fontTurned;
-    CreateMarkFont(fontTurned, pDC, 900);
+    CreateDeviceFont(fontTurned, pDC, 900);
     CSelectGuard selectFont(pDC, &fontTurned);
     pDC->SetTextColor(crMark);   // stays as set, like the clip
     CSaveDCGuard saveModes(pDC);  // background colour and mode go back

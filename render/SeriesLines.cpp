@@ -2,6 +2,7 @@
 // highlight regions in their own pens; and PlotLine, a one-off line drawn
 // straight onto the window.
 #include "graph/GraphPrv.h"
+#include "render/DrawerPen.h"
 #include "series/PlotData.h"
 #include "render/HighlightRegionData.h"
 #include <memory>
@@ -67,8 +68,7 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
     {
         // A pen the system refuses is not selected: the line then takes the
         // context's own pen.
-        CPen penSeries;
-        penSeries.CreatePen(pPlotData->m_nLineStyle, pPlotData->m_nLineWidth, bColor ? pPlotData->m_crLine : 0);
+        CDrawerPen penSeries(pPlotData->m_nLineStyle, pPlotData->m_nLineWidth, pPlotData->m_crLine, bColor);
         CRgn rgnClip;
         CSaveDCGuard saveDC(pDC);
         if (bScaled) {
@@ -100,9 +100,8 @@ int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
                 if (iFirst != iDone)
                     nResult = Polyline_Win98_Workaround(pDC, pPoints + iDone, (int)(iFirst - iDone + 1));
                 if (nResult == 0 && iLast > iFirst) {
-                    CPen penRegion;
-                    penRegion.CreatePen(pRegion->m_nRegionStyle, pPlotData->m_nLineWidth,
-                                        bColor ? pRegion->m_crRegion : 0);
+                    CDrawerPen penRegion(pRegion->m_nRegionStyle, pPlotData->m_nLineWidth, pRegion->m_crRegion,
+                                         bColor);
                     CSelectGuard selectRegion(pDC, &penRegion);
                     nResult = Polyline_Win98_Workaround(pDC, pPoints + iFirst, (int)(iLast - iFirst + 1));
                 }
@@ -120,8 +119,7 @@ int CGraphPrv::PlotLine(double x1, double y1, double x2, double y2, DWORD crColo
         return GRAPH_OK;   // a graph without a window has no screen to draw on
     try {
         CClientDC dc(this);
-        CPen pen;
-        pen.CreatePen(nStyle, m_nGridPenWidth, crColor);
+        CDrawerPen pen(nStyle, m_nGridPenWidth, crColor);
         CSelectGuard selectPen(&dc, &pen);
         dc.IntersectClipRect(m_rectPlot.left, m_rectPlot.top, m_rectPlot.right + 1, m_rectPlot.bottom + 1);
         int y = DataToPixelY(y1, nYAxis);

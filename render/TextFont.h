@@ -1,7 +1,9 @@
-// The graph's text font in a context, for the time of one drawer: on a
-// printer or plotter a point font made for the device from the graph's font
-// description, elsewhere the graph's own screen font. The previous font is
-// selected back and the device font deleted when the object goes.
+// The graph's text font on a device. CreateDeviceFont makes the graph's font
+// at its point size for the device of a context (or the screen), turned if
+// asked; CGraphTextFont selects the font a drawer writes with for the time
+// of one drawer: on a printer or plotter a point font made for the device,
+// elsewhere the graph's own screen font. The previous font is selected back
+// and a device font deleted when the object goes.
 #pragma once
 
 #include "graph/GraphPrv.h"
@@ -23,9 +25,7 @@ private:
     {
         if (!IsPrinterOrPlotter(pDC))
             return &pGraph->m_font;
-        LOGFONT logFont = pGraph->m_logFont;
-        logFont.lfHeight = pGraph->m_nPointSize;
-        m_fontDevice.CreatePointFontIndirect(&logFont, pDC);
+        pGraph->CreateDeviceFont(m_fontDevice, pDC, 0);
         return &m_fontDevice;
     }
 

@@ -1,6 +1,7 @@
 // Tic marks on the four edges of the plot, pointing inward. Major and minor
 // lengths follow the text font's height; positions come from the tic tables.
 #include "graph/GraphPrv.h"
+#include "render/DrawerPen.h"
 #include "render/TextFont.h"
 
 namespace {
@@ -69,7 +70,7 @@ void DrawAxisTics(CDC* pDC, const TicEdge& edge, const int* pPixels, int nCount,
 
 void CGraphPrv::PlotTics(CDC* pDC)
 {
-    CPen pen(PS_SOLID, m_nGridPenWidth, IsColorDevice(pDC) ? m_crGrid : 0);
+    CDrawerPen pen(PS_SOLID, m_nGridPenWidth, m_crGrid, IsColorDevice(pDC));
     CSelectGuard selectPen(pDC, &pen);
 
     // The length of a tic follows the height of the text font.

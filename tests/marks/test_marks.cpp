@@ -33,7 +33,7 @@ public:
     TEXTMETRIC MarkMetrics(int nEscapement = 0, int* pnWidth = NULL)
     {
         CFont font;
-        Prv()->CreateMarkFont(font, DC(), nEscapement);
+        Prv()->CreateDeviceFont(font, DC(), nEscapement);
         CSelectGuard select(DC(), &font);
         TEXTMETRIC tm;
         DC()->GetTextMetrics(&tm);
