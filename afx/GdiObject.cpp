@@ -7,6 +7,7 @@
 
 namespace {
 volatile LONG g_nLiveGdiObjects = 0;
+volatile LONG g_nRefuseAfter = -1;   // RefuseAfter: objects still taken before one is refused
 }
 
 IMPLEMENT_DYNAMIC(CGdiObject, CObject)
@@ -28,11 +29,20 @@ LONG PASCAL CGdiObject::GetLiveCount()
     return g_nLiveGdiObjects;
 }
 
+void PASCAL CGdiObject::RefuseAfter(LONG nAfter)
+{
+    InterlockedExchange(&g_nRefuseAfter, nAfter);
+}
+
 BOOL CGdiObject::Attach(HGDIOBJ hObject)
 {
     ASSERT(m_hObject == NULL);
     if (hObject == NULL)
         return FALSE;
+    if (g_nRefuseAfter >= 0 && InterlockedDecrement(&g_nRefuseAfter) == -1) {
+        ::DeleteObject(hObject);
+        return FALSE;
+    }
     m_hObject = hObject;
     m_bStock = FALSE;
     InterlockedIncrement(&g_nLiveGdiObjects);

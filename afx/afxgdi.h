@@ -36,6 +36,10 @@ public:
     // this process: what the resource tests watch, since GDI object counters
     // of the system are not available everywhere.
     static LONG PASCAL GetLiveCount();
+    // A test facility: the object that the (nAfter + 1)-th following Attach
+    // would take is refused (its handle deleted, the creation fails), as the
+    // system refuses an object it cannot make. -1 refuses nothing.
+    static void PASCAL RefuseAfter(LONG nAfter);
 
 protected:
     // Wraps a handle that the system owns (stock objects, system colour

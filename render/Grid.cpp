@@ -2,35 +2,9 @@
 // X axis and of the left Y axis.
 #include "graph/GraphPrv.h"
 #include "render/DrawerPen.h"
+#include "render/GridLines.h"
 
 namespace {
-
-// End points of the grid lines of one paint, two per line. At most ten
-// interior tics with nine minor lines after each, and nine before the first,
-// on each of the two axes.
-class CGridLines
-{
-public:
-    enum { nMaxLines = 2 * (10 * 10 + 9) };
-    CGridLines() : m_nLines(0) {}
-
-    void Add(int x1, int y1, int x2, int y2)
-    {
-        if (m_nLines >= nMaxLines)
-            return;
-        m_points[2 * m_nLines].x = x1;
-        m_points[2 * m_nLines].y = y1;
-        m_points[2 * m_nLines + 1].x = x2;
-        m_points[2 * m_nLines + 1].y = y2;
-        m_nLines++;
-    }
-    int GetCount() const { return m_nLines; }
-    POINT* GetPoints() { return m_points; }
-
-private:
-    POINT m_points[2 * nMaxLines];
-    int m_nLines;
-};
 
 int ClampMinorCount(int nCount)
 {
@@ -38,6 +12,33 @@ int ClampMinorCount(int nCount)
 }
 
 } // namespace
+
+int CalcGridLines(const int* pnTicPixel, int nTicCount, int iStep, const MINORTICS* pMinor, int nMinorCount,
+                  int nSign, int nLow, int nHigh, int* pnPixels)
+{
+    const int nCount = nTicCount > 10 ? 10 : nTicCount;
+    const int nMinor = pMinor != NULL ? ClampMinorCount(nMinorCount) : 0;
+    int n = 0;
+    // The minor lines of the interval before tic 1 are only tested against
+    // the edge they come from, those after a tic against the edge ahead.
+    if (nMinor > 0 && nCount >= 1) {
+        for (int k = 0; k < nMinor; k++) {
+            const int nPixel = pnTicPixel[1] - nSign * pMinor->nSpacing + nSign * pMinor->nOffset[k];
+            if (nSign > 0 ? nPixel > nLow : nPixel < nHigh)
+                pnPixels[n++] = nPixel;
+        }
+    }
+    for (int i = iStep; i <= nCount - 1; i += iStep) {
+        pnPixels[n++] = pnTicPixel[i];
+        for (int k = 0; k < nMinor; k++) {
+            const int nPixel = pnTicPixel[i] + nSign * pMinor->nOffset[k];
+            if (nSign > 0 ? nPixel < nHigh : nPixel > nLow)
+                pnPixels[n++] = nPixel;
+        }
+    }
+    return n;
+}
+
 
 int CGraphPrv::ShowGrid(DWORD dwGridType)
 {
@@ -85,63 +86,31 @@ void CGraphPrv::PlotGrid(CDC* pDC)
     const BOOL bMinor = (m_dwGridType & GRID_MINOR) && m_nXTicType != 0 && m_nMinorTics != 0;
     const int iStep = ((m_dwGridType & GRID_MAJOR) && m_nXTicType == 0) ? 2 : 1;
 
-    CGridLines lines;
+    // End points of all lines, two per line, vertical ones first.
+    POINT aPoints[2 * 2 * GRID_MAX_LINES];
+    int nPoints = 0;
+    int anPixels[GRID_MAX_LINES];
     if (m_dwGridType & GRID_VERTICAL) {
-        const int nTop = m_rectPlot.top + 1;
-        const int nBottom = m_rectPlot.bottom;
-        const int nCount = m_nXTicCount > 10 ? 10 : m_nXTicCount;
-        const int nMinor = ClampMinorCount(m_nMinorTicCount[0]);
-        if (bMinor && nCount >= 1) {
-            for (int k = 0; k < nMinor; k++) {
-                int x = m_nXTicPixel[1] - m_MinorX.nSpacing + m_MinorX.nOffset[k];
-                if (x > m_rectPlot.left)
-                    lines.Add(x, nTop, x, nBottom);
-            }
-        }
-        for (int i = iStep; i <= nCount - 1; i += iStep) {
-            int x = m_nXTicPixel[i];
-            lines.Add(x, nTop, x, nBottom);
-            if (!bMinor)
-                continue;
-            for (int k = 0; k < nMinor; k++) {
-                int xMinor = x + m_MinorX.nOffset[k];
-                if (xMinor < m_rectPlot.right)
-                    lines.Add(xMinor, nTop, xMinor, nBottom);
-            }
+        const int n = CalcGridLines(m_nXTicPixel, m_nXTicCount, iStep, bMinor ? &m_MinorX : NULL,
+                                    m_nMinorTicCount[0], 1, m_rectPlot.left, m_rectPlot.right, anPixels);
+        for (int i = 0; i < n; i++) {
+            aPoints[nPoints++] = CPoint(anPixels[i], m_rectPlot.top + 1);
+            aPoints[nPoints++] = CPoint(anPixels[i], m_rectPlot.bottom);
         }
     }
     if (m_dwGridType & GRID_HORIZONTAL) {
-        const int nLeft = m_rectPlot.left + 1;
-        const int nRight = m_rectPlot.right;
-        const int nCount = m_nYTicCount[0] > 10 ? 10 : m_nYTicCount[0];
-        const int nMinor = ClampMinorCount(m_nMinorTicCount[1]);
-        if (bMinor && nCount >= 1) {
-            for (int k = 0; k < nMinor; k++) {
-                int y = m_nYTicPixel[0][1] + m_MinorYLeft.nSpacing - m_MinorYLeft.nOffset[k];
-                if (y < m_rectPlot.bottom)
-                    lines.Add(nLeft, y, nRight, y);
-            }
-        }
-        for (int i = iStep; i <= nCount - 1; i += iStep) {
-            int y = m_nYTicPixel[0][i];
-            lines.Add(nLeft, y, nRight, y);
-            if (!bMinor)
-                continue;
-            for (int k = 0; k < nMinor; k++) {
-                int yMinor = y - m_MinorYLeft.nOffset[k];
-                if (yMinor > m_rectPlot.top)
-                    lines.Add(nLeft, yMinor, nRight, yMinor);
-            }
+        const int n = CalcGridLines(m_nYTicPixel[0], m_nYTicCount[0], iStep, bMinor ? &m_MinorYLeft : NULL,
+                                    m_nMinorTicCount[1], -1, m_rectPlot.top, m_rectPlot.bottom, anPixels);
+        for (int i = 0; i < n; i++) {
+            aPoints[nPoints++] = CPoint(m_rectPlot.left + 1, anPixels[i]);
+            aPoints[nPoints++] = CPoint(m_rectPlot.right, anPixels[i]);
         }
     }
 
     // On a scaled context the lines are placed in device pixels, so that
     // the pen keeps its width in pixels.
-    POINT* pPoints = lines.GetPoints();
-    const int nPoints = 2 * lines.GetCount();
     if (pDC->GetMapMode() == MM_ANISOTROPIC) {
-        for (int n = 0; n < nPoints; n++)
-            pDC->LPtoDP(&pPoints[n], 1);
+        pDC->LPtoDP(aPoints, nPoints);
         pDC->SetMapMode(MM_TEXT);
         pDC->SetWindowOrg(0, 0);
         pDC->SetViewportOrg(0, 0);
@@ -150,7 +119,7 @@ void CGraphPrv::PlotGrid(CDC* pDC)
     // The gaps of a dashed grid take the plot's background.
     pDC->SetBkColor(bColor ? m_crBackground : 0xFFFFFF);
     for (int n = 0; n < nPoints; n += 2) {
-        pDC->MoveTo(pPoints[n]);
-        pDC->LineTo(pPoints[n + 1]);
+        pDC->MoveTo(aPoints[n]);
+        pDC->LineTo(aPoints[n + 1]);
     }
 }

@@ -88,8 +88,11 @@ void CGraphPrv::PlotPoints(CDC* pDC)
 
     // The context's own clip goes back at the end. Without one, GetClipRgn
     // leaves the region empty, and selecting that clips everything away.
+    // A region the system refuses could not give the clip back: then the
+    // series are not drawn.
     CRgn rgnSaved;
-    rgnSaved.CreateRectRgn(0, 0, 0, 0);
+    if (!rgnSaved.CreateRectRgn(0, 0, 0, 0))
+        return;
     ::GetClipRgn(pDC->m_hDC, (HRGN)rgnSaved.m_hObject);
 
     const int nClip = pDC->IntersectClipRect(m_rectPlot.left, m_rectPlot.top, m_rectPlot.right + 1,

@@ -3,6 +3,7 @@
 // black and white, dashes, highlight regions, a scaled context, the state of
 // the context and the GDI objects after a paint, and the series lock.
 #include "Surface.h"
+#include "render/AnnotationMark.h"
 #include <limits>
 #include <thread>
 
@@ -340,15 +341,40 @@ TEST(Pipeline, TheSeriesLoopHoldsTheSeriesLock)
     EXPECT_EQ(BLUE, f.AtData(0.5, 5.0));
 }
 
-TEST(Pipeline, AStyleTheSystemRefusesNeitherThrowsNorLeaks)
+TEST(Pipeline, AnObjectTheSystemRefusesNeitherThrowsNorLeaks)
 {
+    // An unknown pen style becomes a solid pen here; every pen, brush, font
+    // or region of a whole paint refused in turn: Plot still returns, and
+    // gives the context back as it was.
     PlotFixture f;
     f.Add("odd", Xs(), Flat(5.0f), BLUE, 9);
-    f.m_graph.SetPlotDataAttributes("odd", BLUE, 9, -4, 0, BLUE);
-    HGDIOBJ hPen = ::GetCurrentObject(f.DC()->m_hDC, OBJ_PEN);
+    f.m_graph.SetPlotDataAttributes("odd", BLUE, 9, -4, MARK_SQUARE, BLUE);
+    f.m_graph.SetGridAttributes(GRID_BOTHWAYS, MAGENTA, 9);
+    f.m_graph.SetXAxisNumFmt("%.1f");
+    f.m_graph.SetYAxisLabel(0, "Y");
+    const HDC hDC = f.DC()->m_hDC;
+    HRGN hClip = ::CreateRectRgn(5, 5, 390, 290);
+    auto state = [&] {
+        HRGN hNow = ::CreateRectRgn(0, 0, 0, 0);
+        const int nClip = ::GetClipRgn(hDC, hNow);
+        const bool bSame = nClip == 1 && ::EqualRgn(hNow, hClip);
+        ::DeleteObject(hNow);
+        return Str("%p %p %p %06lx %d", ::GetCurrentObject(hDC, OBJ_PEN), ::GetCurrentObject(hDC, OBJ_BRUSH),
+                   ::GetCurrentObject(hDC, OBJ_FONT), ::GetTextColor(hDC), (int)bSame);
+    };
+    ::SelectClipRgn(hDC, hClip);
+    const std::string strBefore = state();
     const LONG nBefore = CGdiObject::GetLiveCount();
-    EXPECT_EQ(GRAPH_OK, f.Plot());
-    EXPECT_EQ(hPen, ::GetCurrentObject(f.DC()->m_hDC, OBJ_PEN));
-    EXPECT_EQ(nBefore, CGdiObject::GetLiveCount());
-    EXPECT_EQ(FRAME, f.m_dib.At(f.m_rectPlot.left, f.m_rectPlot.top));
+    EXPECT_EQ(GRAPH_OK, f.m_graph.Plot(f.DC(), 0));
+    const LONG nMade = CGdiObject::GetLiveCount() - nBefore;   // 0: all deleted again
+    for (LONG n = 0; n < 40; n++) {
+        CGdiObject::RefuseAfter(n);
+        ::SelectClipRgn(hDC, hClip);
+        EXPECT_EQ(GRAPH_OK, f.m_graph.Plot(f.DC(), 0)) << n;
+        CGdiObject::RefuseAfter(-1);
+        EXPECT_EQ(strBefore, state()) << n;
+        EXPECT_EQ(nBefore + nMade, CGdiObject::GetLiveCount()) << n;
+    }
+    ::SelectClipRgn(hDC, NULL);
+    ::DeleteObject(hClip);
 }

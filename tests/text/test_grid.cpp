@@ -2,13 +2,13 @@
 // background, the rule of ShowGrid, the device-pixel grid of a scaled
 // context, and the grid in a whole paint.
 #include "Surface.h"
+#include "render/GridLines.h"
 
 namespace {
 
 const COLORREF crGrid = 0x00A000;
 
-// The columns of row y (or the rows of column x) inside the plot that carry
-// the grid colour.
+// The columns of row y inside the plot that carry the grid colour.
 std::vector<int> GridColumns(const Dib& dib, const CRect& r, int y)
 {
     std::vector<int> columns;
@@ -16,15 +16,6 @@ std::vector<int> GridColumns(const Dib& dib, const CRect& r, int y)
         if (dib.At(x, y) == crGrid)
             columns.push_back(x);
     return columns;
-}
-
-std::vector<int> GridRows(const Dib& dib, const CRect& r, int x)
-{
-    std::vector<int> rows;
-    for (int y = r.top; y <= r.bottom; y++)
-        if (dib.At(x, y) == crGrid)
-            rows.push_back(y);
-    return rows;
 }
 
 // A whole line strictly inside the plot, from edge to edge.
@@ -97,39 +88,39 @@ TEST(Grid, FloatingTicsDrawEveryMajorTic)
     }
 }
 
-TEST(Grid, MinorLinesOfFloatingTics)
+TEST(Grid, WhereTheLinesOfOneAxisGo)
 {
-    // Tables by hand: X tics at 50, 100, 200, 250 (count 3) with minor
-    // offsets 25 and 50 in an interval of 50; left Y tics at 150, 100, 20
-    // with a minor offset of 25.
-    CanvasGraph g(300, 200);
-    CGraphPrv* p = g.Prv();
-    p->m_rectPlot.SetRect(50, 20, 250, 150);
-    p->m_nXTicType = p->m_nYTicType[0] = 1;
-    p->m_nMinorTics = 1;
-    p->m_nXTicCount = 3;
+    // X tics at 50, 100, 200, 250 (last index 3) with minor offsets 25 and
+    // 50 in an interval of 50, the plot from 50 to 250.
     const int anX[4] = { 50, 100, 200, 250 };
-    memcpy(p->m_nXTicPixel, anX, sizeof(anX));
-    p->m_nMinorTicCount[0] = 2;
-    p->m_MinorX.nSpacing = 50;
-    p->m_MinorX.nOffset[0] = 25;
-    p->m_MinorX.nOffset[1] = 50;
-    p->m_nYTicCount[0] = 2;
+    MINORTICS minorX = { 50, { 25, 50 } };
+    int an[GRID_MAX_LINES];
+    // Before tic 1 at 75 (100 - 50 + 25) and at 100 (the major tic, again);
+    // tic 1 at 100 with minors 125 and 150; tic 2 at 200 with 225; 250 lies
+    // on the right edge and is left out.
+    int n = CalcGridLines(anX, 3, 1, &minorX, 2, 1, 50, 250, an);
+    EXPECT_EQ((std::vector<int>{ 75, 100, 100, 125, 150, 200, 225 }), std::vector<int>(an, an + n));
+    // Without minor lines, the interior tics; every second one from tic 2.
+    n = CalcGridLines(anX, 3, 1, NULL, 2, 1, 50, 250, an);
+    EXPECT_EQ((std::vector<int>{ 100, 200 }), std::vector<int>(an, an + n));
+    const int anFixed[11] = { 0, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100 };
+    n = CalcGridLines(anFixed, 10, 2, NULL, 0, 1, 0, 100, an);
+    EXPECT_EQ((std::vector<int>{ 20, 40, 60, 80 }), std::vector<int>(an, an + n));
+
+    // Left Y tics at 150, 100, 20 (pixels fall as the index rises), one
+    // minor at 25 in an interval of 50, the plot from 20 to 150: under tic 1
+    // at 125 (100 + 50 - 25), tic 1 at 100, above it at 75.
     const int anY[3] = { 150, 100, 20 };
-    memcpy(p->m_nYTicPixel[0], anY, sizeof(anY));
-    p->m_nMinorTicCount[1] = 1;
-    p->m_MinorYLeft.nSpacing = 50;
-    p->m_MinorYLeft.nOffset[0] = 25;
-    p->m_dwGridType = GRID_MINOR | GRID_BOTHWAYS;
-    p->m_crGrid = crGrid;
-    p->PlotGrid(g.DC());
-    const CRect r = p->m_rectPlot;
-    // Vertical: before tic 1 at 75 (100 - 50 + 25) and at 100 (the major
-    // tic, drawn again); tic 1 at 100, minors 125 and 150; tic 2 at 200 and
-    // its minor 225; 250 lies on the right edge and is left out.
-    EXPECT_EQ((std::vector<int>{ 75, 100, 125, 150, 200, 225 }), GridColumns(g.m_dib, r, 60));
-    // Horizontal: under tic 1 at 125 (100 + 50 - 25), tic 1 at 100, above it at 75.
-    EXPECT_EQ((std::vector<int>{ 75, 100, 125 }), GridRows(g.m_dib, r, 60));
+    MINORTICS minorY = { 50, { 25 } };
+    n = CalcGridLines(anY, 2, 1, &minorY, 1, -1, 20, 150, an);
+    EXPECT_EQ((std::vector<int>{ 125, 100, 75 }), std::vector<int>(an, an + n));
+
+    // Counts beyond the tables stay inside them: at most ten tics with nine
+    // minor lines after each, and none from a count below 1.
+    MINORTICS minorMany = { 9, { 1, 2, 3, 4, 5, 6, 7, 8, 9 } };
+    EXPECT_EQ(9 + 9 * 10, CalcGridLines(anFixed, 50, 1, &minorMany, 40, 1, -1000, 1000, an));
+    EXPECT_EQ(0, CalcGridLines(anFixed, 0, 1, &minorMany, 9, 1, 0, 100, an));
+    EXPECT_EQ(0, CalcGridLines(anFixed, -3, 1, &minorMany, 9, 1, 0, 100, an));
 }
 
 TEST(Grid, DashedGridGapsTakeThePlotBackground)
