@@ -311,7 +311,7 @@ TEST(Layout, SizeGraphOnMemoryContext)
     ::GetWindowRect(p->m_legend.m_hWnd, &rectLegend);
     p->m_legend.m_bShown = TRUE;
     p->m_legend.m_bAutoHide = FALSE;
-    p->m_legend.m_nPosition = 4;
+    p->m_legend.m_nPosition = LEGEND_RIGHT;
     g.m_graph.SizeGraph(mem.DC(), 0, 0, 400, 300, 0);
     EXPECT_EQ(400 - rectLegend.Width(), p->m_rectGraph.right);
     p->m_legend.m_bShown = FALSE;
@@ -352,6 +352,61 @@ TEST(Layout, SizeGraphAndMinimumSizeOnAPrinter)
     EXPECT_EQ((m.T ? m.S + m.L : m.S + m.O + m.M) + m.S / 2 + 3 * m.D, nMinWidth);
     EXPECT_EQ(3 * m.L + ((5 * m.L) / 2 + 1) + (3 * m.L) / 2, nMinHeight);
     EXPECT_EQ(lOldHeight, p->m_logFont.lfHeight);   // the screen font stays
+}
+
+TEST(Layout, TextAndTicsOnAPrinterUseTheDeviceFont)
+{
+    TemporaryPrinter printer;
+    if (printer.m_dc.m_hDC == NULL)
+        GTEST_SKIP() << "no printer context could be made here";
+    GraphInHost g(GS_NOWINDOW);
+    CGraphPrv* p = g.Prv();
+    g.m_graph.SetTicMarkType(0, 0, NULL);   // fixed tics: majors at the even indices
+    g.m_graph.SetXAxisNumFmt("%.1f");
+
+    // Drawn on a bitmap with the printer as the attribute context, as a
+    // print preview draws: metrics and fonts are the printer's.
+    Dib dib(2000, 1500);
+    CDC dc;
+    dc.Attach(dib.DC()->m_hDC);
+    dc.SetAttribDC(printer.m_dc.m_hDC);
+    ASSERT_EQ(GRAPH_OK, g.m_graph.SizeGraph(&dc, 0, 0, 2000, 1500, 0));
+    ASSERT_EQ(GRAPH_OK, g.m_graph.Plot(&dc, 0));
+    dc.Detach();
+
+    // The font the graph is to use there, measured on the bitmap, where the
+    // tics take their length from.
+    LOGFONT lf = p->m_logFont;
+    lf.lfHeight = p->m_nPointSize;
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFontIndirect(&lf, &printer.m_dc));
+    const FontMeasures mPrinter = MeasureFont(printer.m_dc.m_hAttribDC, (HFONT)font.m_hObject);
+    const FontMeasures mScreen = MeasureOn(NULL, p);
+    TEXTMETRICA tm;
+    {
+        CSelectGuard select(dib.DC(), &font);
+        ::GetTextMetricsA(dib.DC()->m_hDC, &tm);
+    }
+    ASSERT_GT(tm.tmHeight / 2, mScreen.L);
+
+    // A major tic on the bottom edge reaches tmHeight / 2 into the plot, a
+    // minor one tmHeight / 4.
+    const CRect r = p->m_rectPlot;
+    const COLORREF crInk = dib.At(r.left, r.bottom);   // the frame's colour
+    for (int i : { 2, 3 }) {
+        const int nLength = i % 2 == 0 ? tm.tmHeight / 2 : tm.tmHeight / 4;
+        const int x = p->m_nXTicPixel[i];
+        EXPECT_EQ(crInk, dib.At(x, r.bottom - nLength + 1)) << i;
+        EXPECT_NE(crInk, dib.At(x, r.bottom - nLength)) << i;
+    }
+    // The number under the left end stands in a line of the printer font,
+    // and its ink is taller than a whole line of the screen font.
+    const CRect& rc = p->m_rectLimit[LIMIT_XMIN];
+    EXPECT_EQ(mPrinter.L, rc.Height());
+    int nInkRows = 0;
+    for (int y = rc.top; y < rc.bottom; y++)
+        nInkRows += dib.Count(rc.left, y, rc.right, y + 1, crInk) > 0;
+    EXPECT_GT(nInkRows, mScreen.L);
 }
 
 TEST(Layout, GetMinimumGraphSize)
