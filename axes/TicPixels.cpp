@@ -44,6 +44,10 @@ int CGraphPrv::NumberOfMinorTicMarks(int nSpacing, int nDotsPerInch)
 
 void CGraphPrv::CalcTicMarkPixels()
 {
+    // The tic value code keeps every count inside its table.
+    ASSERT(m_nXTicCount >= 0 && m_nXTicCount < AXES_TIC_SLOTS);
+    ASSERT(m_nYTicCount[0] >= 0 && m_nYTicCount[0] < AXES_TIC_SLOTS);
+    ASSERT(m_nYTicCount[1] >= 0 && m_nYTicCount[1] < AXES_TIC_SLOTS);
     const double W = fabs((double)(m_rectPlot.right - m_rectPlot.left));
     const double H = fabs((double)(m_rectPlot.bottom - m_rectPlot.top));
     const BOOL bEmpty = m_rectPlot.IsRectEmpty();

@@ -130,6 +130,7 @@ double CGraphPrv::PixelToDataYRpt(int nY, int nAxis)
 
 void CGraphPrv::XformPlotData(CPlotData* pData, POINT* pPoints)
 {
+    ASSERT(pData != NULL && pPoints != NULL);
     double dXScale, dXOffset, dYScale, dYOffset;
     HorzXform(&dXScale, &dXOffset);
     dXOffset += AXES_ROUNDING;

@@ -15,5 +15,6 @@ void CCrossHair::Show(CGraphPrv* pGraph, BOOL bShow)
 
 void CCrossHair::Resize()
 {
-    // Nothing stands on the window while the read-outs do not exist.
+    // Placeholder: the read-out windows follow the layout here; nothing
+    // stands on the window while they do not exist.
 }

@@ -16,11 +16,11 @@ void CGraphPrv::RemoveAllFloatingLabels()
 
 void CGraphPrv::PlaceFloatingLabels()
 {
-    // No label is placed until the label window class binds them (see the
-    // floating label code); the map is empty until then.
+    // Placeholder: the labels are bound and placed here; the map stays
+    // empty until floating labels exist.
 }
 
 void CGraphPrv::UpdateAllFloatingLabelPositions()
 {
-    // As for PlaceFloatingLabels: nothing to move while the map is empty.
+    // Placeholder: the labels move with their data positions here.
 }

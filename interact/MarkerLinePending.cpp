@@ -6,13 +6,16 @@
 
 int CGraphPrv::UpdateMarkerLinePos()
 {
+    // Placeholder: the marker line follows the limits here.
     return GRAPH_OK;
 }
 
 void CGraphPrv::OnSeriesRemoved(CPlotData*)
 {
+    // Placeholder: the marker line goes with its series here.
 }
 
 void CGraphPrv::OnSeriesDataReplaced(CPlotData*)
 {
+    // Placeholder: the marker line stays on valid data here.
 }

@@ -3,5 +3,6 @@
 
 void CGraphPrv::Serialize(CArchive& ar)
 {
+    // Placeholder: the graph's archive format is written and read here.
     CWnd::Serialize(ar);
 }

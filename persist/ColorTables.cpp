@@ -4,7 +4,6 @@
 #include "graph/GraphPrv.h"
 #include "graph/Globals.h"
 #include "resources/resource.h"
-#include <mbstring.h>
 
 CLineColor* g_pDefaultLineColors = NULL;
 COLORREF* g_pBaseColors = NULL;
@@ -128,7 +127,7 @@ int CGraphPrv::GetMatchingColor(const CString& strName, CLineColor& color)
 {
     for (int i = 0; m_pGraphColors != NULL && i < m_nGraphColors; i++) {
         const CLineColor& entry = m_pGraphColors[i];
-        if (_mbscmp((const unsigned char*)(LPCSTR)entry.m_strName, (const unsigned char*)(LPCSTR)strName) == 0) {
+        if (entry.m_strName == strName) {
             color.m_crLine = entry.m_crLine;
             color.m_nLineStyle = entry.m_nLineStyle;
             color.m_nAnnotate = entry.m_nAnnotate;

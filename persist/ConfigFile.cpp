@@ -4,11 +4,12 @@
 
 BOOL LoadDefaultLineColors()
 {
-    // Not read yet: the built-in table stands.
+    // Placeholder: the file is read here; the built-in table stands.
     return FALSE;
 }
 
 BOOL SaveDefaultLineColors()
 {
+    // Placeholder: the file is written here.
     return FALSE;
 }

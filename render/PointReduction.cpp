@@ -13,6 +13,7 @@
 // neither instruction set used here has a fused multiply-add to round them
 // differently.
 #include "graph/GraphPrv.h"
+#include "axes/AxesMath.h"
 #include "series/PlotData.h"
 #include "render/HighlightRegionData.h"
 #include <algorithm>
@@ -285,6 +286,8 @@ long ReduceSeries(CPlotData* pPlotData, const PIXELXFORM& xf)
 
 void CGraphPrv::OptimizePoints(CPlotData* pPlotData)
 {
+    // Runs under the series lock or on the window's thread alone.
+    ASSERT(pPlotData != NULL);
     if (pPlotData->m_lPoints < 1)
         return;
     if (pPlotData->m_pfXData == NULL) {
@@ -318,9 +321,9 @@ void CGraphPrv::OptimizePoints(CPlotData* pPlotData)
 
     PIXELXFORM xf;
     HorzXform(&xf.dXScale, &xf.dXOffset);
-    xf.dXOffset += 0.50001;
+    xf.dXOffset += AXES_ROUNDING;
     VertXform(&xf.dYScale, &xf.dYOffset, pPlotData->m_nYAxis);
-    xf.dYOffset += 0.50001;
+    xf.dYOffset += AXES_ROUNDING;
 
     long nKept;
     try {

@@ -118,6 +118,7 @@ int CGraphPrv::ClipDrawLine(const CRect& rect, POINT& pt1, POINT& pt2, DWORD& dw
 
 int CGraphPrv::DrawClippedPolyline(CPolylineSink& sink, const POINT* pPoints, int nCount)
 {
+    ASSERT(nCount < 2 || pPoints != NULL);
     if (nCount - 1 < 1)
         return 0;
     const CRect rect(m_rectPlot);

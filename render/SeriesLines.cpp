@@ -33,6 +33,7 @@ inline long ClampIndex(long nIndex, long nCount)
 
 int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
 {
+    ASSERT(pDC != NULL && pPlotData != NULL);
     const bool bScaled = pDC->GetMapMode() == MM_ANISOTROPIC;
     CPlotRectRestore restorePlot(m_rectPlot);
     std::unique_ptr<POINT[]> pCopy;   // the scaled paint draws from a copy of the pixels

@@ -23,6 +23,7 @@ public:
 private:
     CGdiObject* Choose(CDC* pDC, CGraphPrv* pGraph)
     {
+        ASSERT(pGraph->m_font.m_hObject != NULL);   // made by the constructor, remade by every font change
         if (!IsPrinterOrPlotter(pDC))
             return &pGraph->m_font;
         pGraph->CreateDeviceFont(m_fontDevice, pDC, 0);

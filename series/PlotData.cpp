@@ -4,7 +4,6 @@
 #include "graph/GraphDefs.h"
 #include "render/AreaData.h"
 #include "render/HighlightRegionData.h"
-#include <mbstring.h>
 #include <string.h>
 
 namespace {
@@ -17,11 +16,6 @@ float FloatFromBits(unsigned int nBits)
     float f;
     memcpy(&f, &nBits, sizeof(f));
     return f;
-}
-
-BOOL SameName(const CString& a, const CString& b)
-{
-    return _mbscmp((const unsigned char*)(LPCSTR)a, (const unsigned char*)(LPCSTR)b) == 0;
 }
 
 // Converts n doubles to floats; values at or above the largest float become
@@ -102,7 +96,7 @@ COLORREF CPlotData::GetAnnotateColor()
 int CPlotData::FindLabel(const CString& strName) const
 {
     for (int i = 0; i < m_aLabelNames.GetSize(); i++) {
-        if (SameName(m_aLabelNames[i], strName))
+        if (m_aLabelNames[i] == strName)
             return i;
     }
     return -1;
@@ -152,7 +146,7 @@ void CPlotData::RemoveAllLabels()
 int CPlotData::FindPointHighlight(const CString& strName) const
 {
     for (int i = 0; i < m_aPointHighlightNames.GetSize(); i++) {
-        if (SameName(m_aPointHighlightNames[i], strName))
+        if (m_aPointHighlightNames[i] == strName)
             return i;
     }
     return -1;

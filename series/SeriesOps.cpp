@@ -4,7 +4,6 @@
 // in step; no limit moves and nothing repaints.
 #include "graph/GraphPrv.h"
 #include "series/PlotData.h"
-#include <mbstring.h>
 
 CPlotData* CGraphPrv::FindPlotData(const CString& strName)
 {
@@ -98,8 +97,7 @@ int CGraphPrv::FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD 
     } else if (m_nGraphColorsMode == GRAPH_COLORS_MATCHING) {
         const CLineColor* pMatch = NULL;
         for (int i = 0; m_pGraphColors != NULL && i < m_nGraphColors && pMatch == NULL; i++) {
-            if (_mbscmp((const unsigned char*)(LPCSTR)m_pGraphColors[i].m_strName,
-                        (const unsigned char*)(LPCSTR)pData->m_strName) == 0)
+            if (m_pGraphColors[i].m_strName == pData->m_strName)
                 pMatch = &m_pGraphColors[i];
         }
         if (pMatch == NULL)

@@ -11,7 +11,7 @@ BOOL RegisterPaletteWindowClass()
         return TRUE;
     memset(&wc, 0, sizeof(wc));
     wc.style = CS_GLOBALCLASS | CS_DBLCLKS;
-    wc.lpfnWndProc = ::DefWindowProcA;
+    wc.lpfnWndProc = ::DefWindowProcA;   // Placeholder: the palette control's own procedure
     wc.hInstance = g_hGraphInstance;
     wc.hCursor = ::LoadCursorA(NULL, (LPCSTR)IDC_ARROW);
     wc.lpszClassName = PALETTE_WINDOW_CLASS;
