@@ -5,6 +5,7 @@
 // automatic scaling switch.
 #include "graph/GraphPrv.h"
 #include "axes/AxesMath.h"
+#include "axes/AxisView.h"
 #include <math.h>
 
 namespace {
@@ -31,34 +32,21 @@ void KeepPairApart(double& dF, double& dS, double dR, BOOL bOldRising)
 
 } // namespace
 
-void CGraphPrv::StoreXLimits(double dMax, double dMin, BOOL bRange)
+void CGraphPrv::StoreLimits(int iAxis, double dMax, double dMin, BOOL bRange)
 {
+    CAxisView axis = Axis(iAxis);
     m_bPointsStale = TRUE;
-    KeepPairApart(dMax, dMin, (double)m_fXResolution, m_dXMax > m_dXMin);
-    m_dXMax = dMax;
-    m_dXMin = dMin;
-    CalcXTicValues();
+    KeepPairApart(dMax, dMin, (double)axis.fResolution, axis.dMax > axis.dMin);
+    axis.dMax = dMax;
+    axis.dMin = dMin;
+    CalcTicValues(iAxis);
     // A change of limits frees a locked cross hair, and renews the transform
     // its read-outs work from.
     if (m_dwState & GST_CROSSHAIR) {
-        HorzXform(&m_dXScale, &m_dXOffset);
-        m_dwState &= ~GST_CROSSHAIR_LOCKED;
-    }
-    if (bRange && m_pMarkerLine != NULL)
-        UpdateMarkerLinePos();
-    UpdateAllFloatingLabelPositions();
-}
-
-void CGraphPrv::StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange)
-{
-    const int n = AxesYIndex(nAxis);
-    m_bPointsStale = TRUE;
-    KeepPairApart(dMax, dMin, (double)m_fYResolution[n], m_dYMax[n] > m_dYMin[n]);
-    m_dYMax[n] = dMax;
-    m_dYMin[n] = dMin;
-    CalcYTicValues(n);
-    if (m_dwState & GST_CROSSHAIR) {
-        VertXform(&m_dYScale[n], &m_dYOffset[n], n);
+        if (iAxis == AXIS_X)
+            HorzXform(&axis.dScale, &axis.dOffset);
+        else
+            VertXform(&axis.dScale, &axis.dOffset, iAxis - AXIS_YLEFT);
         m_dwState &= ~GST_CROSSHAIR_LOCKED;
     }
     if (bRange && m_pMarkerLine != NULL)
@@ -68,7 +56,7 @@ void CGraphPrv::StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange)
 
 int CGraphPrv::SetXAxisLimits(double dMin, double dMax)
 {
-    StoreXLimits(dMax, dMin, FALSE);
+    StoreLimits(AXIS_X, dMax, dMin, FALSE);
     return GRAPH_OK;
 }
 
@@ -81,7 +69,7 @@ int CGraphPrv::GetXAxisLimits(double* pdMin, double* pdMax)
 
 int CGraphPrv::SetYAxisLimits(double dMin, double dMax, int nAxis)
 {
-    StoreYLimits(dMax, dMin, nAxis, FALSE);
+    StoreLimits(AxisOfY(nAxis), dMax, dMin, FALSE);
     return GRAPH_OK;
 }
 
@@ -96,12 +84,12 @@ int CGraphPrv::GetYAxisLimits(double* pdMin, double* pdMax, int nAxis)
 
 void CGraphPrv::sg_xrange(double dMax, double dMin)
 {
-    StoreXLimits(dMax, dMin, TRUE);
+    StoreLimits(AXIS_X, dMax, dMin, TRUE);
 }
 
 void CGraphPrv::sg_yrange(double dMax, double dMin, int nAxis)
 {
-    StoreYLimits(dMax, dMin, nAxis, TRUE);
+    StoreLimits(AxisOfY(nAxis), dMax, dMin, TRUE);
 }
 
 int CGraphPrv::SetLimitFlip(DWORD dwFlags)

@@ -3,6 +3,7 @@
 // the device's resolution.
 #include "graph/GraphPrv.h"
 #include "axes/AxesMath.h"
+#include "axes/AxisView.h"
 #include <math.h>
 
 namespace {
@@ -42,71 +43,43 @@ int CGraphPrv::NumberOfMinorTicMarks(int nSpacing, int nDotsPerInch)
     return 9;                           // tenths
 }
 
+void CGraphPrv::CalcAxisTicPixels(int iAxis, BOOL bEmptyPlot)
+{
+    CAxisView axis = Axis(iAxis);
+    int* pnPixel = axis.pnTicPixel;
+    const int n = AxesLastTic(axis.nTicCount);
+    if (axis.nTicType == 0) {
+        // Equal parts from the left edge, or from the top edge counting down.
+        for (int i = 0; i <= n; i++)
+            pnPixel[i] = axis.nLowEdge + AxesRoundPixel((double)(axis.nSign > 0 ? i : n - i) / n * axis.dLength);
+        return;
+    }
+    if (bEmptyPlot) {
+        for (int i = 0; i <= n; i++)
+            pnPixel[i] = axis.nOrigin;
+    } else {
+        double dSpan = axis.dMax - axis.dMin;
+        if (dSpan == 0.0)
+            dSpan = AXES_TOLERANCE;
+        const double dPerPixel = dSpan / axis.dLength;
+        for (int i = 0; i <= n; i++)
+            pnPixel[i] = axis.nOrigin + axis.nSign * AxesRoundPixel((axis.pdTicValue[i] - axis.dMin) / dPerPixel);
+    }
+    axis.minor.nSpacing = MajorSpacing(pnPixel, n, axis.nSign);
+    if (m_nMinorTics != 0) {
+        axis.nMinorCount = NumberOfMinorTicMarks(axis.minor.nSpacing, axis.nDotsPerInch);
+        FillMinorOffsets(axis.minor, axis.nMinorCount);
+    }
+}
+
 void CGraphPrv::CalcTicMarkPixels()
 {
-    // The tic value code keeps every count inside its table.
-    ASSERT(m_nXTicCount >= 0 && m_nXTicCount < AXES_TIC_SLOTS);
-    ASSERT(m_nYTicCount[0] >= 0 && m_nYTicCount[0] < AXES_TIC_SLOTS);
-    ASSERT(m_nYTicCount[1] >= 0 && m_nYTicCount[1] < AXES_TIC_SLOTS);
-    const double W = fabs((double)(m_rectPlot.right - m_rectPlot.left));
-    const double H = fabs((double)(m_rectPlot.bottom - m_rectPlot.top));
+    // The X axis, the left Y axis, and the right one when it is shown.
     const BOOL bEmpty = m_rectPlot.IsRectEmpty();
-
-    // ---- X axis ----
-    {
-        const int n = AxesLastTic(m_nXTicCount);
-        if (m_nXTicType == 0) {
-            for (int i = 0; i <= n; i++)
-                m_nXTicPixel[i] = m_rectPlot.left + AxesRoundPixel((double)i / n * W);
-        } else {
-            if (bEmpty) {
-                for (int i = 0; i <= n; i++)
-                    m_nXTicPixel[i] = m_rectPlot.left;
-            } else {
-                double dSpan = m_dXMax - m_dXMin;
-                if (dSpan == 0.0)
-                    dSpan = AXES_TOLERANCE;
-                const double dPerPixel = dSpan / W;
-                for (int i = 0; i <= n; i++)
-                    m_nXTicPixel[i] = m_rectPlot.left + AxesRoundPixel((m_dXTicValue[i] - m_dXMin) / dPerPixel);
-            }
-            m_MinorX.nSpacing = MajorSpacing(m_nXTicPixel, n, 1);
-            if (m_nMinorTics != 0) {
-                m_nMinorTicCount[0] = NumberOfMinorTicMarks(m_MinorX.nSpacing, m_nLogPixelsX);
-                FillMinorOffsets(m_MinorX, m_nMinorTicCount[0]);
-            }
-        }
-    }
-
-    // ---- Y axes: the left one, and the right one when it is shown ----
-    const int nYAxes = m_bRightAxisDisplayed ? 2 : 1;
-    for (int nAxis = 0; nAxis < nYAxes; nAxis++) {
-        int* pnPixel = m_nYTicPixel[nAxis];
-        MINORTICS& minor = nAxis == 0 ? m_MinorYLeft : m_MinorYRight;
-        const int n = AxesLastTic(m_nYTicCount[nAxis]);
-        if (m_nYTicType[nAxis] == 0) {
-            for (int i = 0; i <= n; i++)
-                pnPixel[i] = m_rectPlot.top + AxesRoundPixel((double)(n - i) / n * H);
-        } else {
-            if (bEmpty) {
-                for (int i = 0; i <= n; i++)
-                    pnPixel[i] = m_rectPlot.bottom;
-            } else {
-                double dSpan = m_dYMax[nAxis] - m_dYMin[nAxis];
-                if (dSpan == 0.0)
-                    dSpan = AXES_TOLERANCE;
-                const double dPerPixel = dSpan / H;
-                for (int i = 0; i <= n; i++)
-                    pnPixel[i] = m_rectPlot.bottom -
-                                 AxesRoundPixel((m_dYTicValue[nAxis][i] - m_dYMin[nAxis]) / dPerPixel);
-            }
-            minor.nSpacing = MajorSpacing(pnPixel, n, -1);
-            if (m_nMinorTics != 0) {
-                m_nMinorTicCount[1 + nAxis] = NumberOfMinorTicMarks(minor.nSpacing, m_nLogPixelsY);
-                FillMinorOffsets(minor, m_nMinorTicCount[1 + nAxis]);
-            }
-        }
-    }
+    CalcAxisTicPixels(AXIS_X, bEmpty);
+    CalcAxisTicPixels(AXIS_YLEFT, bEmpty);
+    if (m_bRightAxisDisplayed)
+        CalcAxisTicPixels(AXIS_YRIGHT, bEmpty);
 
     // Without a right axis of its own, the tics on the right edge stand
     // opposite those of the left axis. The right value table stays as it is.

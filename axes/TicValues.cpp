@@ -3,6 +3,7 @@
 // between them), and the switch between the two modes.
 #include "graph/GraphPrv.h"
 #include "axes/AxesMath.h"
+#include "axes/AxisView.h"
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -129,27 +130,27 @@ int CGraphPrv::CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
     return ::CalcFloatingTics(dFirst, dSecond, pdTable);
 }
 
-void CGraphPrv::CalcXTicValues()
+void CGraphPrv::CalcTicValues(int iAxis)
 {
-    if (m_nXTicType != 0) {
-        m_nXTicCount = CalcFloatingTics(m_dXMin, m_dXMax, m_dXTicValue);
+    CAxisView axis = Axis(iAxis);
+    if (axis.nTicType != 0) {
+        axis.nTicCount = CalcFloatingTics(axis.dMin, axis.dMax, axis.pdTicValue);
         CalcTicMarkPixels();
     } else {
         // The pixels of a fixed table depend on the count and the plot
         // rectangle alone, and stay as they are.
-        FillFixedTable(m_dXMin, m_dXMax, m_nXTicCount, m_dXTicValue);
+        FillFixedTable(axis.dMin, axis.dMax, axis.nTicCount, axis.pdTicValue);
     }
+}
+
+void CGraphPrv::CalcXTicValues()
+{
+    CalcTicValues(AXIS_X);
 }
 
 void CGraphPrv::CalcYTicValues(int nAxis)
 {
-    const int n = AxesYIndex(nAxis);
-    if (m_nYTicType[n] != 0) {
-        m_nYTicCount[n] = CalcFloatingTics(m_dYMin[n], m_dYMax[n], m_dYTicValue[n]);
-        CalcTicMarkPixels();
-    } else {
-        FillFixedTable(m_dYMin[n], m_dYMax[n], m_nYTicCount[n], m_dYTicValue[n]);
-    }
+    CalcTicValues(AxisOfY(nAxis));
 }
 
 void CGraphPrv::CalcAllTicValues()

@@ -4,6 +4,7 @@
 // transform, and the tests of a value against the plot rectangle.
 #include "graph/GraphPrv.h"
 #include "axes/AxesMath.h"
+#include "axes/AxisView.h"
 #include "series/PlotData.h"
 #include <string.h>
 
@@ -38,18 +39,44 @@ inline int FloatBitsPixel(float fValue)
     return (int)(((unsigned int)nInside & ~uBig) | ((unsigned int)nBound & uBig));
 }
 
+// A pixel right on a tic gives the tic's own value: the tics are scanned
+// from index 0 while their pixels lead up to nPixel (rising on X, falling
+// on Y); the last tic is not scanned. FALSE when no tic stands there.
+BOOL TicValueAtPixel(const CAxisView& axis, int nPixel, double& dValue)
+{
+    const int s = axis.nSign;
+    const int* pnPixel = axis.pnTicPixel;
+    if (s * nPixel < s * pnPixel[0])
+        return FALSE;
+    const int nLast = AxesLastTic(axis.nTicCount);
+    for (int i = 0; i < nLast; i++) {
+        if (nPixel == pnPixel[i]) {
+            dValue = axis.pdTicValue[i];
+            return TRUE;
+        }
+        if (s * nPixel < s * pnPixel[i + 1])
+            break;
+    }
+    return FALSE;
+}
+
 } // namespace
+
+void CGraphPrv::WidenEqualLimits(int iAxis)
+{
+    CAxisView axis = Axis(iAxis);
+    if (axis.dMax != axis.dMin)
+        return;
+    axis.dMax = axis.dMax * 1.002;
+    axis.dMin = axis.dMin - axis.dMin * 0.002;
+    if (axis.dMax == 0.0)
+        axis.dMax += AXES_TOLERANCE;
+    CalcTicValues(iAxis);
+}
 
 void CGraphPrv::HorzXform(double* pdScale, double* pdOffset)
 {
-    // Equal limits are widened for good before they can divide.
-    if (m_dXMax == m_dXMin) {
-        m_dXMax = m_dXMax * 1.002;
-        m_dXMin = m_dXMin - m_dXMin * 0.002;
-        if (m_dXMax == 0.0)
-            m_dXMax += AXES_TOLERANCE;
-        CalcXTicValues();
-    }
+    WidenEqualLimits(AXIS_X);
     *pdScale = (double)(m_rectPlot.right - m_rectPlot.left) / (m_dXMax - m_dXMin);
     *pdOffset = m_rectPlot.right - *pdScale * m_dXMax;
 }
@@ -57,13 +84,7 @@ void CGraphPrv::HorzXform(double* pdScale, double* pdOffset)
 void CGraphPrv::VertXform(double* pdScale, double* pdOffset, int nAxis)
 {
     const int n = AxesYIndex(nAxis);
-    if (m_dYMax[n] == m_dYMin[n]) {
-        m_dYMax[n] = m_dYMax[n] * 1.002;
-        m_dYMin[n] = m_dYMin[n] - m_dYMin[n] * 0.002;
-        if (m_dYMax[n] == 0.0)
-            m_dYMax[n] += AXES_TOLERANCE;
-        CalcYTicValues(n);
-    }
+    WidenEqualLimits(AxisOfY(n));
     *pdScale = (double)(m_rectPlot.bottom - m_rectPlot.top) / (m_dYMax[n] - m_dYMin[n]);
     *pdOffset = *pdScale * m_dYMin[n] + m_rectPlot.bottom;
 }
@@ -97,34 +118,18 @@ double CGraphPrv::PixelToDataY(int nY, int nAxis)
 
 double CGraphPrv::PixelToDataXRpt(int nX)
 {
-    // A pixel right on a tic gives the tic's own value. The scan relies on
-    // the X tic pixels rising with the index; the last tic is not scanned.
-    if (nX >= m_nXTicPixel[0]) {
-        const int nLast = AxesLastTic(m_nXTicCount);
-        for (int i = 0; i < nLast; i++) {
-            if (nX == m_nXTicPixel[i])
-                return m_dXTicValue[i];
-            if (nX < m_nXTicPixel[i + 1])
-                break;
-        }
-    }
+    double dValue;
+    if (TicValueAtPixel(Axis(AXIS_X), nX, dValue))
+        return dValue;
     return (nX - m_dXOffset) / m_dXScale;
 }
 
 double CGraphPrv::PixelToDataYRpt(int nY, int nAxis)
 {
-    // As for X, with the Y tic pixels falling with the index.
     const int n = AxesYIndex(nAxis);
-    const int* pnPixel = m_nYTicPixel[n];
-    if (nY <= pnPixel[0]) {
-        const int nLast = AxesLastTic(m_nYTicCount[n]);
-        for (int i = 0; i < nLast; i++) {
-            if (nY == pnPixel[i])
-                return m_dYTicValue[n][i];
-            if (nY > pnPixel[i + 1])
-                break;
-        }
-    }
+    double dValue;
+    if (TicValueAtPixel(Axis(AxisOfY(n)), nY, dValue))
+        return dValue;
     return (m_dYOffset[n] - nY) / m_dYScale[n];
 }
 

@@ -246,11 +246,10 @@ protected:
     CString GetMaxLenString();
     // The extent of one series, smaller values in the minimum fields.
     void GetRadarValues(CPlotData* pData);
-    // The limit setters: the narrow-pair rule, the store, and what follows a
-    // change; bRange is set for sg_xrange and sg_yrange, which also move the
-    // marker line.
-    void StoreXLimits(double dMax, double dMin, BOOL bRange);
-    void StoreYLimits(double dMax, double dMin, int nAxis, BOOL bRange);
+    // The limit setters of one axis (AXIS_X, AXIS_YLEFT, AXIS_YRIGHT): the
+    // narrow-pair rule, the store, and what follows a change; bRange is set
+    // for sg_xrange and sg_yrange, which also move the marker line.
+    void StoreLimits(int iAxis, double dMax, double dMin, BOOL bRange);
 
     // ---- interact/ (protected) ----------------------------------------------
     // The marker line follows its series: removed with it, and kept on valid
@@ -311,9 +310,15 @@ private:
     double PixelToDataY(int nY, int nAxis);
     double PixelToDataXRpt(int nX);
     double PixelToDataYRpt(int nY, int nAxis);
+    // One axis through the graph's fields (axes/AxisView.h).
+    struct CAxisView Axis(int iAxis);
+    // Equal limits of an axis widened for good before they can divide.
+    void WidenEqualLimits(int iAxis);
     // Tic tables and pixels, recomputed after every limit or layout change.
     void CalcXTicValues();
     void CalcYTicValues(int nAxis);
+    void CalcTicValues(int iAxis);
+    void CalcAxisTicPixels(int iAxis, BOOL bEmptyPlot);
     // The tic values of all three axes; with ResetTicTables, from counts of 10.
     void CalcAllTicValues();
     void ResetTicTables();
