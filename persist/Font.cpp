@@ -27,9 +27,9 @@ int CGraphPrv::SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText)
             pParent->ScreenToClient(&rect);
         ReSizeGraph(&rect);
     } else {
-        // A windowless graph is laid out again over its plot rectangle; its
-        // owner lays it out for its own context before drawing.
-        SizeGraph(&dc, m_rectPlot.left, m_rectPlot.top, m_rectPlot.right, m_rectPlot.bottom,
+        // A windowless graph is laid out again over the area it has, for the
+        // screen; its owner lays it out for its own context before drawing.
+        SizeGraph(&dc, m_rectGraph.left, m_rectGraph.top, m_rectGraph.Width(), m_rectGraph.Height(),
                   (m_dwStyle & GS_RIGHTAXIS) != 0);
     }
     return GRAPH_OK;

@@ -409,6 +409,27 @@ TEST(Layout, TextAndTicsOnAPrinterUseTheDeviceFont)
     EXPECT_GT(nInkRows, mScreen.L);
 }
 
+TEST(Layout, SetLogFontLaysTheGraphOutAgain)
+{
+    // With a window, over the window's rectangle; without one, over the area
+    // the graph has. Both with the measures of the new font on the screen.
+    GraphInHost g;
+    LOGFONT lf = g.Prv()->m_logFont;
+    ASSERT_EQ(GRAPH_OK, g.m_graph.SetLogFont(&lf, 160, 0));
+    const FontMeasures m = MeasureOn(g.Prv()->m_hWnd, g.Prv());
+    EXPECT_EQ(CRect(0, 0, 400, 300), g.Prv()->m_rectGraph);
+    ExpectPlot(g.Prv(), ExpectedPlot(g.Prv()->m_rectGraph, m, m.S));
+
+    const CRect rect(30, 40, 530, 440);
+    GraphInHost gw(GS_NOWINDOW, rect);
+    const int nOldLine = MeasureOn(NULL, gw.Prv()).L;
+    ASSERT_EQ(GRAPH_OK, gw.m_graph.SetLogFont(&lf, 160, 0));
+    const FontMeasures mw = MeasureOn(NULL, gw.Prv());
+    EXPECT_GT(mw.L, nOldLine);   // a larger font than before
+    EXPECT_EQ(rect, gw.Prv()->m_rectGraph);
+    ExpectPlot(gw.Prv(), ExpectedPlot(rect, mw, mw.S));
+}
+
 TEST(Layout, GetMinimumGraphSize)
 {
     GraphInHost g;

@@ -165,6 +165,34 @@ TEST(Grid, ShowGridRefusesWithFloatingLeftTicsAndARightAxis)
     EXPECT_EQ((DWORD)(GRID_MAJOR | GRID_BOTHWAYS), g.Prv()->m_dwGridType);
 }
 
+TEST(Grid, PlotTurnsTheGridOffForGoodWithFloatingLeftTicsAndARightAxis)
+{
+    // The grid was allowed while the right axis was hidden; once it shows,
+    // with floating tics on the left, Plot takes the grid off, and it stays
+    // off when the right axis goes again.
+    CanvasGraph g;
+    CGraph& graph = g.m_graph;
+    CGraphPrv* p = g.Prv();
+    ASSERT_NE(0, p->m_nYTicType[0]);
+    ASSERT_EQ(GRAPH_OK, graph.SetGridAttributes(GRID_BOTHWAYS, crGrid, PS_SOLID));
+    const int nMid = (p->m_rectPlot.top + p->m_rectPlot.bottom) / 2 + 1;
+    ASSERT_EQ(GRAPH_OK, g.Plot());
+    EXPECT_FALSE(GridColumns(g.m_dib, p->m_rectPlot, nMid).empty());
+
+    graph.SetYAxisLabel(1, "right");
+    g.Layout();
+    for (const char* pszRight : { "right", "" }) {
+        graph.SetYAxisLabel(1, pszRight);
+        g.m_dib.Fill(WHITE);
+        ASSERT_EQ(GRAPH_OK, g.Plot());
+        EXPECT_EQ((DWORD)GRID_NONE, p->m_dwGridType) << pszRight;
+        // No line crosses the middle of the plot; the tics keep to the edges.
+        const CRect r = p->m_rectPlot;
+        const int nTic = g.Metrics().tmHeight / 2 + 1;
+        EXPECT_EQ(0, g.m_dib.Count(r.left + nTic, r.top + nTic, r.right - nTic, r.bottom - nTic, crGrid)) << pszRight;
+    }
+}
+
 TEST(Grid, ScaledContextDrawsGridInDevicePixels)
 {
     // Laid out in logical units of 0..200 x 0..150 on a canvas of twice that
