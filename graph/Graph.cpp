@@ -35,7 +35,7 @@ int CGraph::ShowGraph() { return m_pGraphPrv->ShowGraph(); }
 int CGraph::HideGraph() { return m_pGraphPrv->HideGraph(); }
 int CGraph::Update() { return m_pGraphPrv->Update(); }
 int CGraph::Replot() { return m_pGraphPrv->Replot(); }
-int CGraph::Plot(CDC* pDC, int bSeriesOnly) { return m_pGraphPrv->Plot(pDC, bSeriesOnly); }
+int CGraph::Plot(CDC* pDC, int bPointsOnly) { return m_pGraphPrv->Plot(pDC, bPointsOnly); }
 int CGraph::GetGraphClientRect(RECT* pRect) { return m_pGraphPrv->GetGraphClientRect(pRect); }
 int CGraph::GetGraphScreenRect(RECT* pRect) { return m_pGraphPrv->GetGraphScreenRect(pRect); }
 int CGraph::GetPlotRect(CRect& rect) { return m_pGraphPrv->GetPlotRect(rect); }

@@ -33,7 +33,7 @@ public:
     int HideGraph();
     int Update();
     int Replot();
-    int Plot(CDC* pDC, int bSeriesOnly);
+    int Plot(CDC* pDC, int bPointsOnly);
     int GetGraphClientRect(RECT* pRect);
     int GetGraphScreenRect(RECT* pRect);
     int GetPlotRect(CRect& rect);
