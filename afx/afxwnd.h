@@ -277,6 +277,8 @@ public:
     static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
+    // The visible window under a point in screen coordinates.
+    static CWnd* PASCAL WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
 
     // Device contexts of the window
     CDC* GetDC();                 // released by ReleaseDC
