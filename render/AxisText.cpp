@@ -1,9 +1,10 @@
 // Axis text: the graph title, the axis titles (rotated for a TrueType font,
 // stacked otherwise) and the numbers along the axes in the locale's
-// notation. A middle number is left out when it would touch its neighbour,
-// repeat the text of its neighbour, or when rounding has slid its text
-// nearer to the next tic than to its own. The rectangles of the printed
-// limits are kept in m_rectLimit for the mouse.
+// notation, every one formatted through FormatNumber. A middle number is
+// left out when it would touch its neighbour, repeat the text of its
+// neighbour, or when rounding has slid its text nearer to the next tic than
+// to its own. The rectangles of the printed limits are kept in m_rectLimit
+// for the mouse.
 //
 // [SECTION] Number texts and extents
 // [SECTION] Horizontal and vertical strings
@@ -11,24 +12,15 @@
 // [SECTION] Numbers of the Y axes
 // [SECTION] PutLabels
 #include "graph/GraphPrv.h"
+#include "render/NumberFormat.h"
 #include "render/TextFont.h"
 #include "sheet/IntlString.h"
 #include <math.h>
 #include <mbstring.h>
-#include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
 namespace {
-
-// The buffer of one formatted number; FormatLabelSuitably writes at most this.
-const int nLabelBuffer = 256;
-
-void FormatInto(char* pszBuffer, LPCSTR lpszFormat, double dValue)
-{
-    _snprintf(pszBuffer, nLabelBuffer - 1, lpszFormat, dValue);
-    pszBuffer[nLabelBuffer - 1] = '\0';
-}
 
 BOOL SameText(const CString& str1, const CString& str2)
 {
@@ -44,7 +36,7 @@ struct LabelContext
     int nCharW;       // average width of a digit, with the overhang
     int nTicOut;      // length of a tic extension below the X axis
     CIntlString intl;
-    char szBuffer[nLabelBuffer];
+    char szBuffer[NUMFMT_BUFFER];
 
     // Formats a value, and gives it in the locale's notation.
     CString Format(const CString& strFormat, double dValue)
@@ -84,11 +76,12 @@ int ClampTicCount(int nCount)
 
 void CGraphPrv::FormatLabelSuitably(char* pszBuffer, CString strFormat, double dValue)
 {
-    // The buffer holds 256 bytes; a longer text is cut there.
-    FormatInto(pszBuffer, strFormat, dValue);
-    const size_t nMax = dValue < 0.0 ? 11 : 10;
-    if (strlen(pszBuffer) > nMax)
-        FormatInto(pszBuffer, m_strMaxLenFormat, dValue);
+    // A refused format gives no text, and no number of last resort either.
+    // A text too long for the buffer counts as long: it is written again.
+    const int nLength = FormatNumber(pszBuffer, NUMFMT_BUFFER, strFormat, dValue);
+    const int nMax = dValue < 0.0 ? 11 : 10;
+    if (nLength > nMax)
+        FormatNumber(pszBuffer, NUMFMT_BUFFER, m_strMaxLenFormat, dValue);
 }
 
 void CGraphPrv::GetLabelWExtent(CDC* pDC, CString& str, int bStrip, int* pnWidth)
@@ -353,7 +346,9 @@ void CGraphPrv::PutLabels(CDC* pDC)
         PlaceStringHorizontal(pDC, 0, m_rectPlot.top - (3 * c.nLine) / 2, m_strGraphTitle, PLACE_HCENTER);
     PlaceStringHorizontal(pDC, 0, m_rectPlot.bottom + (3 * c.nLine) / 2, m_strXAxisLabel, PLACE_HCENTER);
 
-    if (!(m_dwStyle & GS_NOPLOT) && !m_strXAxisNumFmt.IsEmpty())
+    // An axis whose format is empty, or not a format of one number, shows
+    // no numbers and keeps its limit rectangles as they were.
+    if (!(m_dwStyle & GS_NOPLOT) && IsNumberFormat(m_strXAxisNumFmt))
         PutXNumbers(c);
 
     // Each end number of a Y axis is centred on its end; both axes use these.
@@ -362,14 +357,14 @@ void CGraphPrv::PutLabels(CDC* pDC)
 
     if (m_rectPlot.left != m_rectGraph.left)
         PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[0], PLACE_VCENTER | PLACE_LEFTSIDE);
-    if (!m_strYAxisNumFmt[0].IsEmpty())
+    if (IsNumberFormat(m_strYAxisNumFmt[0]))
         PutYNumbers(c, 0, yTop, yBottom);
 
     // The right axis shows only with a title of its own.
     if (!m_strYAxisLabel[1].IsEmpty()) {
         if (m_rectPlot.right + 1 != m_rectGraph.right)
             PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[1], PLACE_VCENTER | PLACE_RIGHTSIDE);
-        if (!m_strYAxisNumFmt[1].IsEmpty())
+        if (IsNumberFormat(m_strYAxisNumFmt[1]))
             PutYNumbers(c, 1, yTop, yBottom);
     }
 

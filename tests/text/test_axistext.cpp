@@ -1,5 +1,6 @@
 // Axis text: titles, the numbers along the axes with their drop rules, the
-// limit rectangles, the locale's decimal sign, rotated titles.
+// limit rectangles, refused formats, the locale's decimal sign, rotated
+// titles.
 // What is written is read back from a metafile recording (text and
 // reference point), where it is drawn from the pixels of a DIB section.
 #include "Surface.h"
@@ -98,33 +99,6 @@ const int X = -1;
 } // namespace
 
 // ---------------------------------------------------------------------------
-// Formatting and measuring
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, FormatLabelSuitablyKeepsTenCharactersOrElevenBelowZero)
-{
-    CGraph graph;
-    CGraphPrv* p = graph.m_pGraphPrv;
-    char sz[400];
-    p->FormatLabelSuitably(sz, "%.4f", -12345.6789);
-    EXPECT_STREQ("-12345.6789", sz);   // 11 characters, negative: stays
-    p->FormatLabelSuitably(sz, "%.5f", 12345.6789);
-    EXPECT_EQ(Fmt("%.3E", 12345.6789), sz);   // 11 characters, positive: the widest format
-    p->FormatLabelSuitably(sz, "%.4f", 12345.6789);
-    EXPECT_STREQ("12345.6789", sz);   // 10 characters
-    p->FormatLabelSuitably(sz, "%.5f", -12345.6789);
-    EXPECT_EQ(Fmt("%.3E", -12345.6789), sz);   // 12 characters
-
-    // A host format that writes 300 characters is cut at the buffer of 256
-    // bytes and then written again in the widest format, inside the buffer.
-    memset(sz, 'Z', sizeof(sz));
-    p->m_strMaxLenFormat = "%300.1f";
-    p->FormatLabelSuitably(sz, "%299.1f", 1.0);
-    EXPECT_EQ(255u, strlen(sz));
-    EXPECT_EQ(std::string(sizeof(sz) - 256, 'Z'), std::string(sz + 256, sizeof(sz) - 256));
-}
-
-// ---------------------------------------------------------------------------
 // End numbers and limit rectangles
 // ---------------------------------------------------------------------------
 
@@ -216,6 +190,32 @@ TEST(AxisText, WhichAxesWriteTheirNumbers)
     EXPECT_EQ(rectSentinel, h.Prv()->m_rectLimit[LIMIT_XMIN]);
     EXPECT_EQ(0, CountText(calls, "5.0") + CountText(calls, "6.0"));
     EXPECT_EQ(2, CountText(calls, "7.0") + CountText(calls, "8.0"));
+}
+
+TEST(AxisText, RefusedFormatsShowNoNumbersOnTheirAxis)
+{
+    // "%s" would read the double as a pointer, "%n" write through it: the
+    // graph paints, and only the right axis writes its numbers.
+    CanvasGraph g(400, 300, GS_RIGHTAXIS);
+    CGraphPrv* p = g.Prv();
+    const CRect rectSentinel(1, 2, 3, 4);
+    for (int i = 0; i < LIMIT_SLOTS; i++)
+        p->m_rectLimit[i] = rectSentinel;
+    p->SetYAxisLabel(1, "R");
+    EXPECT_EQ(GRAPH_OK, p->SetXAxisNumFmt("%s"));
+    EXPECT_EQ(GRAPH_OK, p->SetYAxisNumFmt(0, "%n"));
+    EXPECT_EQ(GRAPH_OK, p->SetYAxisNumFmt(1, "%.1f"));
+    p->SetXAxisLimits(0.0, 1.0);
+    p->SetYAxisLimits(0.0, 1.0, 0);
+    p->SetYAxisLimits(2.0, 3.0, 1);
+    EXPECT_EQ(GRAPH_OK, g.Plot());
+    const std::vector<TextCall> calls = Labels(p);
+    const CRect r = p->m_rectPlot;
+    EXPECT_EQ(0, (int)std::count_if(calls.begin(), calls.end(), [&](const TextCall& c) { return c.x < r.right; }));
+    EXPECT_EQ(CPoint(r.right + 2, r.top - LineOf(g) / 2), Where(calls, "3.0"));
+    for (int i = LIMIT_XMIN; i <= LIMIT_YLEFT_MIN; i++)
+        EXPECT_EQ(rectSentinel, p->m_rectLimit[i]) << i;
+    EXPECT_NE(rectSentinel, p->m_rectLimit[LIMIT_YRIGHT_MAX]);
 }
 
 // ---------------------------------------------------------------------------
