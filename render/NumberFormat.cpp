@@ -12,7 +12,7 @@ const int nFlags = sizeof(szFlags) - 1;
 
 // One conversion as the runtime gets it: "%", the flags, two numbers of at
 // most two digits, a point and the type.
-const int nSpecBuffer = 16;
+const int nConversionBuffer = 16;
 
 // The widest text of one conversion: "%f" of the largest double has 309
 // digits, with a sign, a point and NUMFMT_MAX_PRECISION decimals.
@@ -36,9 +36,9 @@ BOOL ReadBoundedNumber(const char*& p, int nMax, int& nValue)
 }
 
 // Reads the conversion whose "%" stands just before p and writes it again
-// into pszSpec. Returns where the format goes on behind it, or NULL when it
-// is not a conversion of a double within the bounds.
-const char* ReadConversion(const char* p, char* pszSpec)
+// into pszConversion. Returns where the format goes on behind it, or NULL
+// when it is not a conversion of a double within the bounds.
+const char* ReadConversion(const char* p, char* pszConversion)
 {
     BOOL abFlag[nFlags] = {};
     for (const char* pFlag; *p != '\0' && (pFlag = strchr(szFlags, *p)) != NULL; ++p)
@@ -57,7 +57,7 @@ const char* ReadConversion(const char* p, char* pszSpec)
     if (*p == '\0' || strchr("eEfgG", *p) == NULL)
         return NULL;
 
-    char* q = pszSpec;
+    char* q = pszConversion;
     *q++ = '%';
     for (int i = 0; i < nFlags; i++)
         if (abFlag[i])
@@ -71,9 +71,9 @@ const char* ReadConversion(const char* p, char* pszSpec)
     return p + 1;
 }
 
-// The one conversion of a format, rebuilt into pszSpec, and where it stands
-// in the format; FALSE when the format is refused.
-BOOL FindConversion(const char* pszFormat, char* pszSpec, const char*& pBegin, const char*& pEnd)
+// The one conversion of a format, rebuilt into pszConversion, and where it
+// stands in the format; FALSE when the format is refused.
+BOOL FindConversion(const char* pszFormat, char* pszConversion, const char*& pBegin, const char*& pEnd)
 {
     pBegin = pEnd = NULL;
     if (pszFormat == NULL)
@@ -94,7 +94,7 @@ BOOL FindConversion(const char* pszFormat, char* pszSpec, const char*& pBegin, c
         if (pBegin != NULL)
             return FALSE;   // a second conversion
         pBegin = p;
-        p = ReadConversion(p + 1, pszSpec);
+        p = ReadConversion(p + 1, pszConversion);
         if (p == NULL)
             return FALSE;
         pEnd = p;
@@ -123,9 +123,9 @@ void AppendText(const char* p, const char* pEnd, BOOL bFormatText, char* pszBuff
 
 int AFXAPI IsNumberFormat(const char* pszFormat)
 {
-    char szSpec[nSpecBuffer];
+    char szConversion[nConversionBuffer];
     const char *pBegin, *pEnd;
-    return FindConversion(pszFormat, szSpec, pBegin, pEnd) ? 1 : 0;
+    return FindConversion(pszFormat, szConversion, pBegin, pEnd) ? 1 : 0;
 }
 
 int AFXAPI FormatNumber(char* pszBuffer, int nBuffer, const char* pszFormat, double dValue)
@@ -133,13 +133,13 @@ int AFXAPI FormatNumber(char* pszBuffer, int nBuffer, const char* pszFormat, dou
     if (pszBuffer == NULL || nBuffer <= 0)
         return -1;
     pszBuffer[0] = '\0';
-    char szSpec[nSpecBuffer];
+    char szConversion[nConversionBuffer];
     const char *pBegin, *pEnd;
-    if (!FindConversion(pszFormat, szSpec, pBegin, pEnd))
+    if (!FindConversion(pszFormat, szConversion, pBegin, pEnd))
         return -1;
 
     char szNumber[nNumberBuffer];
-    const int nNumber = _snprintf(szNumber, sizeof(szNumber) - 1, szSpec, dValue);
+    const int nNumber = _snprintf(szNumber, sizeof(szNumber) - 1, szConversion, dValue);
     if (nNumber < 0)
         return -1;   // not reached within the bounds
     szNumber[nNumber] = '\0';
