@@ -3,8 +3,8 @@
 // (SizeGraph), and the smallest usable graph. The margins follow the font
 // and the widest number the axes can print.
 #include "graph/GraphPrv.h"
+#include "render/NumberFormat.h"
 #include "render/TextFont.h"
-#include <stdio.h>
 
 namespace {
 
@@ -29,9 +29,9 @@ int CGraphPrv::GetAveWidthOfNumericChar(CDC* pDC)
 
 CString CGraphPrv::GetMaxLenString()
 {
+    // A refused format, or a text longer than the buffer, measures nothing.
     char szBuffer[100];
-    _snprintf(szBuffer, sizeof(szBuffer) - 1, m_strMaxLenFormat, -10000.0);
-    szBuffer[sizeof(szBuffer) - 1] = '\0';
+    FormatNumber(szBuffer, sizeof(szBuffer), m_strMaxLenFormat, -10000.0);
     return CString(szBuffer);
 }
 

@@ -103,3 +103,8 @@
 // ---- Reference line flags (AddReferenceLine) -------------------------------
 #define REFLINE_HORIZONTAL    0x00    // horizontal, at a value of the left Y axis
 #define REFLINE_VERTICAL      0x01    // vertical, at an X value
+
+// ---- Number formats of the axes (FormatNumber) ----------------------------
+#define NUMFMT_MAX_WIDTH      64      // widest field width a number format may ask for
+#define NUMFMT_MAX_PRECISION  32      // most digits of precision a number format may ask for
+#define NUMFMT_BUFFER         256     // bytes of the buffer of one axis number (FormatLabelSuitably)

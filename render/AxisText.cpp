@@ -1,9 +1,8 @@
 // Axis text: the graph title, the axis titles (rotated for a TrueType font,
 // stacked otherwise) and the numbers along the axes in the locale's
-// notation. A middle number is left out when it would touch its neighbour,
-// repeat the text of its neighbour, or when rounding has slid its text
-// nearer to the next tic than to its own. The rectangles of the printed
-// limits are kept in m_rectLimit for the mouse.
+// notation. Every number is formatted through FormatNumber; which middle
+// numbers are left out, the rules of AxisNumbers.h decide. The rectangles
+// of the printed limits are kept in m_rectLimit for the mouse.
 //
 // [SECTION] Number texts and extents
 // [SECTION] Horizontal and vertical strings
@@ -11,30 +10,16 @@
 // [SECTION] Numbers of the Y axes
 // [SECTION] PutLabels
 #include "graph/GraphPrv.h"
+#include "axes/AxesMath.h"
+#include "render/AxisNumbers.h"
 #include "render/DrawerPen.h"
+#include "render/NumberFormat.h"
 #include "render/TextFont.h"
 #include "sheet/IntlString.h"
-#include <math.h>
-#include <mbstring.h>
-#include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
 namespace {
-
-// The buffer of one formatted number; FormatLabelSuitably writes at most this.
-const int nLabelBuffer = 256;
-
-void FormatInto(char* pszBuffer, LPCSTR lpszFormat, double dValue)
-{
-    _snprintf(pszBuffer, nLabelBuffer - 1, lpszFormat, dValue);
-    pszBuffer[nLabelBuffer - 1] = '\0';
-}
-
-BOOL SameText(const CString& str1, const CString& str2)
-{
-    return _mbscmp((const unsigned char*)(LPCSTR)str1, (const unsigned char*)(LPCSTR)str2) == 0;
-}
 
 // What the numbers of one PutLabels call share.
 struct LabelContext
@@ -45,7 +30,7 @@ struct LabelContext
     int nCharW;       // average width of a digit, with the overhang
     int nTicOut;      // length of a tic extension below the X axis
     CIntlString intl;
-    char szBuffer[nLabelBuffer];
+    char szBuffer[NUMFMT_BUFFER];
 
     // Formats a value, and gives it in the locale's notation.
     CString Format(const CString& strFormat, double dValue)
@@ -65,16 +50,11 @@ struct LabelContext
     }
 };
 
-// A middle number stays only if its rounded value is strictly nearer to its
-// own tic than to the next one in line.
-BOOL NearerToOwnTic(float f, double dOwn, double dNext)
-{
-    return fabs((double)f - dOwn) < fabs((double)f - dNext);
-}
-
+// The last index of a tic table inside its slots; a negative count stays,
+// and shows no middle number.
 int ClampTicCount(int nCount)
 {
-    return nCount > 10 ? 10 : nCount;
+    return nCount > AXES_TIC_SLOTS - 1 ? AXES_TIC_SLOTS - 1 : nCount;
 }
 
 } // namespace
@@ -85,11 +65,12 @@ int ClampTicCount(int nCount)
 
 void CGraphPrv::FormatLabelSuitably(char* pszBuffer, CString strFormat, double dValue)
 {
-    // The buffer holds 256 bytes; a longer text is cut there.
-    FormatInto(pszBuffer, strFormat, dValue);
-    const size_t nMax = dValue < 0.0 ? 11 : 10;
-    if (strlen(pszBuffer) > nMax)
-        FormatInto(pszBuffer, m_strMaxLenFormat, dValue);
+    // A refused format gives no text, and no number of last resort either.
+    // A text too long for the buffer counts as long: it is written again.
+    const int nLength = FormatNumber(pszBuffer, NUMFMT_BUFFER, strFormat, dValue);
+    const int nMax = dValue < 0.0 ? 11 : 10;
+    if (nLength > nMax)
+        FormatNumber(pszBuffer, NUMFMT_BUFFER, m_strMaxLenFormat, dValue);
 }
 
 void CGraphPrv::GetLabelWExtent(CDC* pDC, CString& str, int bStrip, int* pnWidth)
@@ -172,6 +153,21 @@ void CGraphPrv::PlaceStringVertical(CDC* pDC, int x, int y, CString& str, long l
 
 namespace {
 
+// The numbers of the interior tics 1 to nCount - 1 of a floating-tic axis:
+// formatted, read back and, with bMeasure, stripped and measured.
+void FormatTicNumbers(LabelContext& c, const CString& strFormat, const double* pdTic, int nCount, BOOL bMeasure,
+                      AxisTicNumber* pNumbers)
+{
+    for (int i = 1; i < nCount; i++) {
+        AxisTicNumber& number = pNumbers[i];
+        number.strText = c.FormatMiddle(strFormat, pdTic[i], number.fRead);
+        number.strDrawn = number.strText;
+        number.nWidth = 0;
+        if (bMeasure)
+            c.pGraph->GetLabelWExtent(c.pDC, number.strDrawn, 1, &number.nWidth);
+    }
+}
+
 void PutXNumbers(LabelContext& c)
 {
     CGraphPrv* g = c.pGraph;
@@ -181,59 +177,46 @@ void PutXNumbers(LabelContext& c)
     int w = 0;
 
     // The minimum, centred under the left end of the axis.
-    CString strLast = c.Format(g->m_strXAxisNumFmt, g->m_dXMin);
-    g->GetLabelWExtent(pDC, strLast, 1, &w);
-    int x = rectPlot.left - w / 2;
+    CString strMin = c.Format(g->m_strXAxisNumFmt, g->m_dXMin);
+    g->GetLabelWExtent(pDC, strMin, 1, &w);
+    const int x = rectPlot.left - w / 2;
     g->m_rectLimit[LIMIT_XMIN].SetRect(x, yLabel, x + w, yLabel + c.nLine);
-    pDC->TextOut(x, yLabel, strLast);
-    int nLeftEnd = x + w + 2;
+    pDC->TextOut(x, yLabel, strMin);
+    const int nLeftEnd = x + w + 2;
 
     // The maximum, under the right end; drawn after the middle numbers.
-    CString strEnd = c.Format(g->m_strXAxisNumFmt, g->m_dXMax);
+    CString strMax = c.Format(g->m_strXAxisNumFmt, g->m_dXMax);
     const int nLastLength = (int)strlen(c.szBuffer);
-    g->GetLabelWExtent(pDC, strEnd, 1, &w);
+    g->GetLabelWExtent(pDC, strMax, 1, &w);
     const int xRight = rectPlot.right - w / 2;
     g->m_rectLimit[LIMIT_XMAX].SetRect(xRight, yLabel, xRight + w, yLabel + c.nLine);
 
     const int nCount = ClampTicCount(g->m_nXTicCount);
     const int nWidth = rectPlot.Width();
     if (g->m_nXTicType == 0) {
-        // Fixed tics: one number in the middle, when three numbers fit.
-        if (nCount >= 0 && 3 * nLastLength * c.nCharW <= nWidth) {
+        // Fixed tics: one number in the middle of the axis.
+        if (nCount >= 0 && FixedXMiddleNumberShown(nLastLength, c.nCharW, nWidth)) {
             CString str = c.Format(g->m_strXAxisNumFmt, g->m_dXTicValue[nCount / 2]);
             g->GetLabelWExtent(pDC, str, 1, &w);
             pDC->TextOut(rectPlot.left + (int)(nWidth * 0.5) - w / 2, yLabel, str);
         }
     } else {
-        // Floating tics: each interior tic, from the left end rightward.
-        BOOL bFirstDrawn = FALSE, bLastDrawn = FALSE;
-        for (int i = 1; i < nCount; i++) {
-            float f = 0.0f;
-            CString str = c.FormatMiddle(g->m_strXAxisNumFmt, g->m_dXTicValue[i], f);
-            if (SameText(str, strLast) || SameText(str, strEnd))
-                continue;
-            if (!NearerToOwnTic(f, g->m_dXTicValue[i], g->m_dXTicValue[i + 1]))
-                continue;
-            g->GetLabelWExtent(pDC, str, 1, &w);
-            x = g->m_nXTicPixel[i] - w / 2;
-            if (x <= nLeftEnd || x + w + 2 >= xRight)
-                continue;
-            pDC->TextOut(x, yLabel, str);
-            strLast = str;
-            nLeftEnd = x + w + 2;
-            if (i == 1)
-                bFirstDrawn = TRUE;
-            if (i == nCount - 1)
-                bLastDrawn = TRUE;
-        }
+        // Floating tics: each number at its tic, as the drop rules leave them.
+        AxisTicNumber numbers[AXES_TIC_SLOTS];
+        FormatTicNumbers(c, g->m_strXAxisNumFmt, g->m_dXTicValue, nCount, TRUE, numbers);
+        const UINT nDrawn =
+            ChooseXTicNumbers(nCount, g->m_dXTicValue, g->m_nXTicPixel, numbers, strMin, strMax, nLeftEnd, xRight);
+        for (int i = 1; i < nCount; i++)
+            if (nDrawn & (1u << i))
+                pDC->TextOut(AxisXNumberLeft(g->m_nXTicPixel[i], numbers[i].nWidth), yLabel, numbers[i].strDrawn);
 
-        // With minor tics and a grid, the major tics reach below the frame;
-        // the outer ones only where their number stands.
-        if (!(g->m_dwGridType & GRID_NONE) && g->m_nMinorTics != 0) {
+        // With minor tics and a grid, the major tics reach below the frame.
+        const UINT nTics = ChooseXTicExtensions(g->m_dwGridType, g->m_nMinorTics, nCount, nDrawn);
+        if (nTics != 0) {
             CDrawerPen pen(PS_SOLID, g->m_nGridPenWidth, g->m_crGrid, g->IsColorDevice(pDC));
             CSelectGuard selectPen(pDC, &pen);
             for (int i = 1; i < nCount; i++) {
-                if ((i == 1 && !bFirstDrawn) || (i == nCount - 1 && !bLastDrawn))
+                if (!(nTics & (1u << i)))
                     continue;
                 pDC->MoveTo(g->m_nXTicPixel[i], rectPlot.bottom);
                 pDC->LineTo(g->m_nXTicPixel[i], rectPlot.bottom + c.nTicOut);
@@ -241,7 +224,7 @@ void PutXNumbers(LabelContext& c)
         }
     }
 
-    pDC->TextOut(xRight, yLabel, strEnd);
+    pDC->TextOut(xRight, yLabel, strMax);
 }
 
 // ---------------------------------------------------------------------------
@@ -261,18 +244,18 @@ void PutYNumbers(LabelContext& c, int nAxis, int yTop, int yBottom)
     int w = 0;
 
     // The maximum, at the top end.
-    CString strLast = c.Format(strFormat, g->m_dYMax[nAxis]);
-    g->GetLabelWExtent(pDC, strLast, bLeft, &w);
-    int x = bLeft ? rectPlot.left - w : xRightSide;
+    CString strMax = c.Format(strFormat, g->m_dYMax[nAxis]);
+    g->GetLabelWExtent(pDC, strMax, bLeft, &w);
+    const int x = bLeft ? rectPlot.left - w : xRightSide;
     if (bLeft)
         g->m_rectLimit[LIMIT_YLEFT_MAX].SetRect(x, yTop, rectPlot.left, yTop + c.nLine);
     else
         g->m_rectLimit[LIMIT_YRIGHT_MAX].SetRect(x, yTop, x + w, yTop + c.nLine);
-    pDC->TextOut(x, yTop, strLast);
+    pDC->TextOut(x, yTop, strMax);
 
     // The minimum, at the bottom end; drawn after the middle numbers.
-    CString strEnd = c.Format(strFormat, g->m_dYMin[nAxis]);
-    g->GetLabelWExtent(pDC, strEnd, bLeft, &w);
+    CString strMin = c.Format(strFormat, g->m_dYMin[nAxis]);
+    g->GetLabelWExtent(pDC, strMin, bLeft, &w);
     const int xEnd = bLeft ? rectPlot.left - w : xRightSide;
     if (bLeft)
         g->m_rectLimit[LIMIT_YLEFT_MIN].SetRect(xEnd, yBottom, rectPlot.left, yBottom + c.nLine);
@@ -282,46 +265,39 @@ void PutYNumbers(LabelContext& c, int nAxis, int yTop, int yBottom)
     const int nHeight = rectPlot.Height();
     const int nCount = ClampTicCount(g->m_nYTicCount[nAxis]);
     const double* pdValues = g->m_dYTicValue[nAxis];
-    if (nHeight > 5 * c.nLine) {
+    const int* pnPixels = g->m_nYTicPixel[nAxis];
+    if (AxisYHasMiddleNumbers(nHeight, c.nLine)) {
         if (g->m_nYTicType[nAxis] == 0) {
             // Fixed tics: one number in the middle of the axis.
             if (nCount >= 0) {
                 CString str = c.Format(strFormat, pdValues[nCount / 2]);
-                if (bLeft) {
-                    if (!SameText(str, strLast) && !SameText(str, strEnd)) {
+                if (FixedYMiddleNumberShown(bLeft, str, strMax, strMin)) {
+                    // The right axis's number stands 2 pixels higher, unmeasured.
+                    int xMiddle = xRightSide;
+                    int yMiddle = rectPlot.bottom - c.nLine / 2 - (int)(nHeight * 0.5) - 2;
+                    if (bLeft) {
                         g->GetLabelWExtent(pDC, str, 1, &w);
-                        pDC->TextOut(rectPlot.left - w,
-                                     rectPlot.bottom - (int)(nHeight * 0.5) - c.nLine / 2, str);
+                        xMiddle = rectPlot.left - w;
+                        yMiddle = rectPlot.bottom - (int)(nHeight * 0.5) - c.nLine / 2;
                     }
-                } else {
-                    pDC->TextOut(xRightSide, rectPlot.bottom - c.nLine / 2 - (int)(nHeight * 0.5) - 2, str);
+                    pDC->TextOut(xMiddle, yMiddle, str);
                 }
             }
         } else {
-            // Floating tics: each interior tic, from the top end downward.
-            for (int i = nCount - 1; i >= 1; i--) {
-                float f = 0.0f;
-                CString str = c.FormatMiddle(strFormat, pdValues[i], f);
-                if (SameText(str, strLast) || SameText(str, strEnd))
-                    continue;
-                if (!NearerToOwnTic(f, pdValues[i], pdValues[i - 1]))
-                    continue;
-                const int y = g->m_nYTicPixel[nAxis][i] - c.nLine / 2;
-                if (y <= yTop + c.nLine || y >= yBottom - c.nLine)
-                    continue;
-                if (bLeft) {
-                    g->GetLabelWExtent(pDC, str, 1, &w);
-                    x = rectPlot.left - w;
-                } else {
-                    x = xRightSide;
-                }
-                pDC->TextOut(x, y, str);
-                strLast = str;
-            }
+            // Floating tics: each number at its tic, as the drop rules leave
+            // them. The right axis does not measure its middle numbers.
+            AxisTicNumber numbers[AXES_TIC_SLOTS];
+            FormatTicNumbers(c, strFormat, pdValues, nCount, bLeft, numbers);
+            const UINT nDrawn =
+                ChooseYTicNumbers(nCount, pdValues, pnPixels, numbers, strMax, strMin, yTop, yBottom, c.nLine);
+            for (int i = nCount - 1; i >= 1; i--)
+                if (nDrawn & (1u << i))
+                    pDC->TextOut(bLeft ? rectPlot.left - numbers[i].nWidth : xRightSide,
+                                 AxisYNumberTop(pnPixels[i], c.nLine), numbers[i].strDrawn);
         }
     }
 
-    pDC->TextOut(xEnd, yBottom, strEnd);
+    pDC->TextOut(xEnd, yBottom, strMin);
 }
 
 } // namespace
@@ -350,7 +326,9 @@ void CGraphPrv::PutLabels(CDC* pDC)
         PlaceStringHorizontal(pDC, 0, m_rectPlot.top - (3 * c.nLine) / 2, m_strGraphTitle, PLACE_HCENTER);
     PlaceStringHorizontal(pDC, 0, m_rectPlot.bottom + (3 * c.nLine) / 2, m_strXAxisLabel, PLACE_HCENTER);
 
-    if (!(m_dwStyle & GS_NOPLOT) && !m_strXAxisNumFmt.IsEmpty())
+    // An axis whose format is empty, or not a format of one number, shows
+    // no numbers and keeps its limit rectangles as they were.
+    if (!(m_dwStyle & GS_NOPLOT) && IsNumberFormat(m_strXAxisNumFmt))
         PutXNumbers(c);
 
     // Each end number of a Y axis is centred on its end; both axes use these.
@@ -359,14 +337,14 @@ void CGraphPrv::PutLabels(CDC* pDC)
 
     if (m_rectPlot.left != m_rectGraph.left)
         PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[0], PLACE_VCENTER | PLACE_LEFTSIDE);
-    if (!m_strYAxisNumFmt[0].IsEmpty())
+    if (IsNumberFormat(m_strYAxisNumFmt[0]))
         PutYNumbers(c, 0, yTop, yBottom);
 
     // The right axis shows only with a title of its own.
     if (!m_strYAxisLabel[1].IsEmpty()) {
         if (m_rectPlot.right + 1 != m_rectGraph.right)
             PlaceStringVertical(pDC, 0, 0, m_strYAxisLabel[1], PLACE_VCENTER | PLACE_RIGHTSIDE);
-        if (!m_strYAxisNumFmt[1].IsEmpty())
+        if (IsNumberFormat(m_strYAxisNumFmt[1]))
             PutYNumbers(c, 1, yTop, yBottom);
     }
 

@@ -112,10 +112,10 @@ BOOL CEditLimit::ParseLimitText(const char* pszText, int nLength, double& dValue
     memcpy(szText, pszText, (size_t)nLength);
     szText[nLength] = '\0';
 
+    // A text of blanks only reads as 0: strtod finds no number and gives 0
+    // with the end at the start, and nothing but blanks follows.
     char* pszEnd = szText;
     double d = strtod(szText, &pszEnd);
-    if (pszEnd == szText)
-        return FALSE;   // no number at all, not even after blanks
     if (d > dLargestFloat || !isfinite(d))
         return FALSE;
     while (*pszEnd == ' ')

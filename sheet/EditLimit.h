@@ -27,7 +27,8 @@ public:
     enum { nLineBuffer = 128 };
 
     // Reads the text as a plain number ("." as the decimal sign, blanks after
-    // it allowed) into dValue; FALSE when it is no usable value.
+    // it allowed; blanks only are 0) into dValue; FALSE when it is no usable
+    // value.
     static BOOL ParseLimitText(const char* pszText, int nLength, double& dValue);
 
 protected:

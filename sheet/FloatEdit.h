@@ -12,7 +12,8 @@
 class AFX_EXT_CLASS CFloatEdit : public CEdit
 {
 public:
-    // lcid 0 stands for the calling thread's locale.
+    // lcid 0 stands for the user's default locale, whatever locale the
+    // calling thread has.
     explicit CFloatEdit(LCID lcid = 0);
     virtual ~CFloatEdit();
 

@@ -7,7 +7,11 @@ void AFXAPI ReadLocaleSign(LCID lcid, LCTYPE lcType, char* pszSign)
     // The locale gives at most four bytes and a terminator; two are kept.
     char szBuffer[5];
     memset(szBuffer, 0, sizeof(szBuffer));
-    if (::GetLocaleInfoA(lcid != 0 ? lcid : ::GetThreadLocale(), lcType, szBuffer, sizeof(szBuffer)) == 0)
+    // Locale 0 is the user's default locale, with the user's own choices:
+    // a host that sets another locale on its thread does not change how the
+    // graph writes and reads numbers.
+    const LCID lcidRead = lcid != 0 ? lcid : LOCALE_USER_DEFAULT;
+    if (::GetLocaleInfoA(lcidRead, lcType, szBuffer, sizeof(szBuffer)) == 0)
         szBuffer[0] = '\0';
     pszSign[0] = szBuffer[0];
     pszSign[1] = szBuffer[0] != '\0' ? szBuffer[1] : '\0';

@@ -170,6 +170,8 @@ TEST(Layout, MeasuringHelpers)
     EXPECT_EQ(Fmt("%.3E", -10000.0), (LPCSTR)probe.GetMaxLenString());
     probe.m_strMaxLenFormat = "%.1f";
     EXPECT_STREQ("-10000.0", (LPCSTR)probe.GetMaxLenString());
+    probe.m_strMaxLenFormat = "%s";   // not a format of one number: nothing to measure
+    EXPECT_STREQ("", (LPCSTR)probe.GetMaxLenString());
 
 }
 

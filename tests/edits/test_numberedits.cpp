@@ -65,24 +65,25 @@ const CRect rectEdit(10, 10, 200, 34);
 
 } // namespace
 
-TEST(IntlString, CommaLocaleReplacesEveryPointAndPointLocaleNothing)
+TEST(IntlString, LocaleZeroIsTheUsersDefaultWhateverTheThreadsLocale)
 {
-    {
-        ThreadLocale locale(lcidEnglish);
-        CIntlString intl;
-        EXPECT_EQ(0u, intl.m_lcid);
-        EXPECT_STREQ(".", intl.m_szDecimal);
-        EXPECT_STREQ(",", intl.m_szThousand);
-        CString str = "-1.5e+003";
-        intl.LocalizeDecimal(str);
-        EXPECT_STREQ("-1.5e+003", str);
-    }
+    char szDecimal[8], szThousand[8];
+    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, szDecimal, sizeof(szDecimal)), 0);
+    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, szThousand, sizeof(szThousand)), 0);
+    ASSERT_STREQ(".", szDecimal);   // the tests run under zh_CN
     ThreadLocale locale(lcidGerman);
-    CIntlString intl;   // the thread locale at construction
-    EXPECT_STREQ(",", intl.m_szDecimal);
-    EXPECT_STREQ(".", intl.m_szThousand);
+    CIntlString intl;
+    EXPECT_EQ(0u, intl.m_lcid);
+    EXPECT_STREQ(szDecimal, intl.m_szDecimal);
+    EXPECT_STREQ(szThousand, intl.m_szThousand);
     EXPECT_STREQ("-", intl.m_szNegative);
-    CString str = "1.2.3";
+    // A point locale leaves the text alone.
+    CString str = "-1.5e+003";
+    intl.LocalizeDecimal(str);
+    EXPECT_STREQ("-1.5e+003", str);
+    // A comma replaces every point, in both forms.
+    strcpy(intl.m_szDecimal, ",");
+    str = "1.2.3";
     intl.LocalizeDecimal(str);
     EXPECT_STREQ("1,2,3", str);
     char sz[32] = "-0.25";
@@ -92,12 +93,12 @@ TEST(IntlString, CommaLocaleReplacesEveryPointAndPointLocaleNothing)
 
 TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
 {
-    ThreadLocale locale(lcidEnglish);
+    // Locale 0 is the user's (zh_CN, with a point), not the thread's.
+    ThreadLocale locale(lcidGerman);
     CommandRecorder parent;
     CFloatEdit edit(0);
     EXPECT_STREQ("0123456789.-", edit.m_strValid);
     EXPECT_EQ(7, edit.m_nPrecision);
-    EXPECT_STREQ("0123456789,-", CFloatEdit(lcidGerman).m_strValid);   // a locale of its own
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 77));
     // Characters, not the number: signs and points anywhere are taken.
     Type(edit.m_hWnd, "-1.5.-2");
@@ -121,9 +122,8 @@ TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
 
 TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
 {
-    ThreadLocale locale(lcidGerman);
     CommandRecorder parent;
-    CFloatEdit edit(0);
+    CFloatEdit edit(lcidGerman);
     EXPECT_STREQ("0123456789,-", edit.m_strValid);
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 78));
     Type(edit.m_hWnd, "1,5.");

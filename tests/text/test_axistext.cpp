@@ -1,5 +1,6 @@
-// Axis text: titles, the numbers along the axes with their drop rules, the
-// limit rectangles, the locale's decimal sign, rotated titles.
+// Axis text: titles, where the numbers along the axes land (their drop
+// rules are tested without a window in test_numbers.cpp), the limit
+// rectangles, refused formats, the locale's decimal sign, rotated titles.
 // What is written is read back from a metafile recording (text and
 // reference point), where it is drawn from the pixels of a DIB section.
 #include "Surface.h"
@@ -98,33 +99,6 @@ const int X = -1;
 } // namespace
 
 // ---------------------------------------------------------------------------
-// Formatting and measuring
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, FormatLabelSuitablyKeepsTenCharactersOrElevenBelowZero)
-{
-    CGraph graph;
-    CGraphPrv* p = graph.m_pGraphPrv;
-    char sz[400];
-    p->FormatLabelSuitably(sz, "%.4f", -12345.6789);
-    EXPECT_STREQ("-12345.6789", sz);   // 11 characters, negative: stays
-    p->FormatLabelSuitably(sz, "%.5f", 12345.6789);
-    EXPECT_EQ(Fmt("%.3E", 12345.6789), sz);   // 11 characters, positive: the widest format
-    p->FormatLabelSuitably(sz, "%.4f", 12345.6789);
-    EXPECT_STREQ("12345.6789", sz);   // 10 characters
-    p->FormatLabelSuitably(sz, "%.5f", -12345.6789);
-    EXPECT_EQ(Fmt("%.3E", -12345.6789), sz);   // 12 characters
-
-    // A host format that writes 300 characters is cut at the buffer of 256
-    // bytes and then written again in the widest format, inside the buffer.
-    memset(sz, 'Z', sizeof(sz));
-    p->m_strMaxLenFormat = "%300.1f";
-    p->FormatLabelSuitably(sz, "%299.1f", 1.0);
-    EXPECT_EQ(255u, strlen(sz));
-    EXPECT_EQ(std::string(sizeof(sz) - 256, 'Z'), std::string(sz + 256, sizeof(sz) - 256));
-}
-
-// ---------------------------------------------------------------------------
 // End numbers and limit rectangles
 // ---------------------------------------------------------------------------
 
@@ -218,51 +192,77 @@ TEST(AxisText, WhichAxesWriteTheirNumbers)
     EXPECT_EQ(2, CountText(calls, "7.0") + CountText(calls, "8.0"));
 }
 
-// ---------------------------------------------------------------------------
-// Middle numbers of fixed tics
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, FixedXMiddleNumberWhenThreeNumbersFit)
+TEST(AxisText, RefusedFormatsShowNoNumbersOnTheirAxis)
 {
-    CanvasGraph g;
+    // "%s" would read the double as a pointer, "%n" write through it: the
+    // graph paints, and only the right axis writes its numbers.
+    CanvasGraph g(400, 300, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
-    p->SetTicMarkType(0, 0, NULL);
-    p->SetXAxisNumFmt("%.1f");
-    p->SetXAxisLimits(0.0, 10.0);
-    const int nCharW = g.TextWidth("0123456789") / 10 - 2 + g.Metrics().tmOverhang;
+    const CRect rectSentinel(1, 2, 3, 4);
+    for (int i = 0; i < LIMIT_SLOTS; i++)
+        p->m_rectLimit[i] = rectSentinel;
+    p->SetYAxisLabel(1, "R");
+    EXPECT_EQ(GRAPH_OK, p->SetXAxisNumFmt("%s"));
+    EXPECT_EQ(GRAPH_OK, p->SetYAxisNumFmt(0, "%n"));
+    p->SetYAxisNumFmt(1, "%.1f");
+    p->SetXAxisLimits(0.0, 1.0);
+    p->SetYAxisLimits(0.0, 1.0, 0);
+    p->SetYAxisLimits(2.0, 3.0, 1);
+    EXPECT_EQ(GRAPH_OK, g.Plot());
+    const std::vector<TextCall> calls = Labels(p);
     const CRect r = p->m_rectPlot;
-    // "10.0", the last text formatted before the middle, has 4 characters.
-    ASSERT_LE(3 * 4 * nCharW, r.Width());
-    std::vector<TextCall> calls = Labels(p);
-    EXPECT_EQ(3u, calls.size());
-    EXPECT_EQ(CPoint(r.left + (int)(r.Width() * 0.5) - LabelWidth(g, "5.0") / 2, r.bottom + LineOf(g) / 2 + 1),
-              Where(calls, "5.0"));
-    // One pixel too narrow for the rule: no middle number.
-    p->m_rectPlot.right = p->m_rectPlot.left + 3 * 4 * nCharW - 1;
-    EXPECT_EQ(2u, Labels(p).size());
-    p->m_rectPlot.right += 1;
-    EXPECT_EQ(3u, Labels(p).size());
+    EXPECT_EQ(0, (int)std::count_if(calls.begin(), calls.end(), [&](const TextCall& c) { return c.x < r.right; }));
+    EXPECT_EQ(CPoint(r.right + 2, r.top - LineOf(g) / 2), Where(calls, "3.0"));
+    for (int i = 0; i < LIMIT_SLOTS; i++)
+        EXPECT_EQ(i < LIMIT_YRIGHT_MAX, rectSentinel == p->m_rectLimit[i]) << i;
 }
 
-TEST(AxisText, FixedYMiddleNumbersLeftTestsEqualTextRightDoesNot)
+TEST(AxisText, TheThreadsLocaleDoesNotChangeTheDecimalSign)
+{
+    // The numbers take the user's decimal sign; a host that sets German on
+    // its thread gets no commas.
+    char szUser[8];
+    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, szUser, sizeof(szUser)), 0);
+    ASSERT_STRNE(",", szUser);
+    ThreadLocale locale(lcidGerman);
+    CanvasGraph g;
+    CGraphPrv* p = g.Prv();
+    p->SetXAxisNumFmt("%.1f");
+    p->SetXAxisLimits(0.5, 1.5);
+    const std::vector<TextCall> calls = Labels(p);
+    EXPECT_EQ(1, CountText(calls, Str("0%s5", szUser)));
+    EXPECT_EQ(1, CountText(calls, Str("1%s5", szUser)));
+}
+
+// ---------------------------------------------------------------------------
+// Middle numbers
+// ---------------------------------------------------------------------------
+
+TEST(AxisText, FixedMiddleNumbersStandAtTheMiddleOfTheAxes)
 {
     CanvasGraph g(400, 300, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
     p->SetYAxisLabel(1, "R");
     p->SetTicMarkType(0, 0, NULL);
     // Limits before formats: a format's resolution would widen a pair this
-    // narrow. All three texts read "1.0".
+    // narrow. All three texts of each Y axis read "1.0".
+    p->SetXAxisLimits(0.0, 10.0);
     p->SetYAxisLimits(1.0, 1.01, 0);
     p->SetYAxisLimits(1.0, 1.01, 1);
+    p->SetXAxisNumFmt("%.1f");
     p->SetYAxisNumFmt(0, "%.1f");
     p->SetYAxisNumFmt(1, "%.1f");
     const int L = LineOf(g);
     const CRect r = p->m_rectPlot;
     ASSERT_GT(r.Height(), 5 * L);
+    const std::vector<TextCall> calls = Labels(p);
+    // X: centred on the plot, under no tic of its own.
+    EXPECT_EQ(CPoint(r.left + (int)(r.Width() * 0.5) - LabelWidth(g, "5.0") / 2, r.bottom + L / 2 + 1),
+              Where(calls, "5.0"));
     // Left: the ends only. Right: the ends and the middle, 2 pixels higher
     // than the left axis would place it.
     std::vector<int> left, right;
-    for (const TextCall& c : Labels(p))
+    for (const TextCall& c : calls)
         if (c.text == "1.0")
             (c.x < r.left ? left : right).push_back(c.y);
     EXPECT_EQ(2u, left.size());
@@ -276,148 +276,42 @@ TEST(AxisText, FixedYMiddleNumbersLeftTestsEqualTextRightDoesNot)
               Where(Labels(p), strMid));
 }
 
-// ---------------------------------------------------------------------------
-// Middle numbers of floating tics and the drop rules
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, FloatingXNumbersSlidByRoundingOrEqualToTheEndsAreDropped)
+TEST(AxisText, FloatingMiddleNumbersAndTicExtensionsStandAtTheirTics)
 {
-    // Tics 0, 0.05, 0.10000051, 0.15000051, 0.2 with one decimal: tic 1
-    // reads "0.1", nearer to tic 2 than to its own value, and is dropped;
-    // tic 2 shows "0.1"; tic 3 reads "0.2", the text of the end, dropped.
-    // Under a comma locale the same, with commas: the slide test reads the
-    // plain text back ("0.1" -> 0.1), where the comma text would read 0.
-    for (LCID lcid : { ::GetThreadLocale(), lcidGerman }) {
-        ThreadLocale locale(lcid);
-        char szDecimal[8];
-        ASSERT_GT(::GetLocaleInfoA(lcid, LOCALE_SDECIMAL, szDecimal, sizeof(szDecimal)), 0);
-        CanvasGraph g(500, 300);
-        CGraphPrv* p = g.Prv();
-        p->SetXAxisNumFmt("%.1f");
-        const CRect r = p->m_rectPlot;
-        const double ad[5] = { 0.0, 0.05, 0.10000051, 0.15000051, 0.2 };
-        const int an[5] = { r.left, r.left + r.Width() / 4, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4,
-                            r.right };
-        SetTable(p, X, 4, ad, an);
-        const std::vector<TextCall> calls = Labels(p);
-        EXPECT_EQ(3u, calls.size()) << szDecimal;
-        for (const char* psz : { "0%s0", "0%s1", "0%s2" })
-            EXPECT_EQ(1, CountText(calls, Str(psz, szDecimal))) << psz << szDecimal;
-        const std::string strMiddle = Str("0%s1", szDecimal);
-        EXPECT_EQ(an[2] - LabelWidth(g, strMiddle) / 2, Where(calls, strMiddle).x);
-    }
-
-    // 0, 0.2, ..., 1 with no decimals: every middle number reads as an end.
-    CanvasGraph g(500, 300);
+    // X numbers centred on their tics; left Y numbers against the frame,
+    // without their leading blanks; right Y numbers at right + 2 as
+    // formatted, blanks and all.
+    CanvasGraph g(500, 400, GS_RIGHTAXIS);
     CGraphPrv* p = g.Prv();
-    p->SetXAxisNumFmt("%.0f");
-    p->SetXAxisLimits(0.0, 1.0);
-    ASSERT_EQ(5, p->m_nXTicCount);
-    const std::vector<TextCall> calls = Labels(p);
-    EXPECT_EQ(2u, calls.size());
-    EXPECT_EQ(1, CountText(calls, "0"));
-}
-
-TEST(AxisText, FloatingXNumbersThatWouldTouchAreDropped)
-{
-    CanvasGraph g(500, 300);
-    CGraphPrv* p = g.Prv();
-    p->SetXAxisNumFmt("%.1f");
-    const CRect r = p->m_rectPlot;
-    const int w2 = LabelWidth(g, "0.2"), w4 = LabelWidth(g, "0.4");
-    const int w6 = LabelWidth(g, "0.6"), w9 = LabelWidth(g, "0.9");
-    const int nLeftEnd = r.left - LabelWidth(g, "0.0") / 2 + LabelWidth(g, "0.0") + 2;
-    const int xRight = r.right - LabelWidth(g, "1.0") / 2;
-    // Tic 1 so close to the left end that its number would start on
-    // nLeftEnd; tic 2 free; tic 3 starting where tic 2's number ends + 2;
-    // tic 4 free; tic 5 ending 2 pixels before the right end number. With
-    // one pixel more room at each place, all of them stand.
-    const int x2 = r.left + 150, x4 = r.left + 300, nEnd2 = x2 - w4 / 2 + w4 + 2;
-    const double ad[7] = { 0.0, 0.2, 0.4, 0.6, 0.8, 0.9, 1.0 };
-    for (int nMore = 0; nMore <= 1; nMore++) {
-        const int an[7] = { r.left, nLeftEnd + nMore + w2 / 2, x2, nEnd2 + nMore + w6 / 2, x4,
-                            xRight - 2 - nMore - w9 + w9 / 2, r.right };
-        SetTable(p, X, 6, ad, an);
-        const std::vector<TextCall> calls = Labels(p);
-        for (const char* psz : { "0.2", "0.6", "0.9" })
-            EXPECT_EQ(nMore, CountText(calls, psz)) << psz;
-        EXPECT_EQ(x2 - w4 / 2, Where(calls, "0.4").x);
-        EXPECT_EQ(1, CountText(calls, "0.8"));
-    }
-}
-
-TEST(AxisText, FloatingYMiddleNumbersNeedMoreThanFiveLines)
-{
-    CanvasGraph g;
-    CGraphPrv* p = g.Prv();
-    p->SetYAxisNumFmt(0, "%.1f");
-    const int L = LineOf(g);
-    const double ad[3] = { 0.0, 0.5, 1.0 };
-    for (int nMore = 0; nMore <= 1; nMore++) {
-        p->m_rectPlot.top = 40;
-        p->m_rectPlot.bottom = 40 + 5 * L + nMore;
-        const int an[3] = { p->m_rectPlot.bottom, (p->m_rectPlot.top + p->m_rectPlot.bottom) / 2, 40 };
-        SetTable(p, 0, 2, ad, an);
-        const std::vector<TextCall> calls = Labels(p);
-        EXPECT_EQ(2u + nMore, calls.size());
-        EXPECT_EQ(nMore ? CPoint(p->m_rectPlot.left - LabelWidth(g, "0.5"), an[1] - L / 2) : CPoint(-9999, -9999),
-                  Where(calls, "0.5"));
-    }
-}
-
-TEST(AxisText, FloatingYNumbersNearTheEndsAreDropped)
-{
-    CanvasGraph g(400, 300, GS_RIGHTAXIS);
-    CGraphPrv* p = g.Prv();
+    const COLORREF crGrid = 0x0000C0;
+    p->m_nMinorTics = 1;
+    p->m_dwGridType = GRID_BOTHWAYS;
+    p->m_crGrid = crGrid;
     p->SetYAxisLabel(1, "R");
-    p->SetYAxisNumFmt(0, "%.1f");
-    p->SetYAxisNumFmt(1, "%.1f");
-    const int L = LineOf(g);
+    p->SetXAxisNumFmt("%.2f");
+    p->SetYAxisNumFmt(0, "%5.1f");
+    p->SetYAxisNumFmt(1, "%5.1f");
     const CRect r = p->m_rectPlot;
-    // Tic 1 sits where its number would reach the bottom end's less a line,
-    // tic 3 where it would reach the top end's plus a line: both dropped.
-    const double ad[5] = { 0.0, 0.25, 0.5, 0.75, 1.0 };
-    const int an[5] = { r.bottom, r.bottom - L / 2 - L + L / 2, (r.top + r.bottom) / 2, r.top - L / 2 + L + L / 2,
-                        r.top };
-    SetTable(p, 0, 4, ad, an);
-    SetTable(p, 1, 4, ad, an);
+    const int L = LineOf(g);
+    // X tic 1 next to the left end: its number is dropped, and with it its
+    // extension below the frame; tic 2 keeps both.
+    const double adX[4] = { 0.0, 0.2, 0.5, 1.0 }, adY[3] = { 0.0, 0.5, 1.0 };
+    const int anX[4] = { r.left, r.left + 2, (r.left + r.right) / 2, r.right };
+    const int anY[3] = { r.bottom, (r.top + r.bottom) / 2, r.top };
+    SetTable(p, X, 3, adX, anX);
+    SetTable(p, 0, 2, adY, anY);
+    SetTable(p, 1, 2, adY, anY);
     const std::vector<TextCall> calls = Labels(p);
-    EXPECT_EQ(0, CountText(calls, "0.2") + CountText(calls, "0.3") + CountText(calls, "0.8"));
-    // The right axis writes its middle numbers at right + 2, unmeasured.
-    ASSERT_EQ(2, CountText(calls, "0.5"));
-    EXPECT_EQ(1, (int)std::count_if(calls.begin(), calls.end(),
-                                    [&](const TextCall& c) { return c.text == "0.5" && c.x == r.right + 2; }));
-}
+    EXPECT_EQ(0, CountText(calls, "0.20"));
+    EXPECT_EQ(CPoint(anX[2] - LabelWidth(g, "0.50") / 2, r.bottom + L / 2 + 1), Where(calls, "0.50"));
+    EXPECT_EQ(CPoint(r.left - LabelWidth(g, "0.5"), anY[1] - L / 2), Where(calls, "0.5"));
+    EXPECT_EQ(CPoint(r.right + 2, anY[1] - L / 2), Where(calls, "  0.5"));
 
-TEST(AxisText, FloatingYNumbersRunDownwardAndCompareWithTheTicBelow)
-{
-    CanvasGraph g(400, 400);
-    CGraphPrv* p = g.Prv();
-    p->SetYAxisNumFmt(0, "%.1f");
-    const CRect r = p->m_rectPlot;
-    const int L = LineOf(g);
-    // Tics 0, 0.1, 0.14, 0.3, tried from tic 2 down: tic 2 reads "0.1",
-    // which lies on tic 1 rather than near 0.14, and is dropped; tic 1 then
-    // shows "0.1" at its own place.
-    const double ad[4] = { 0.0, 0.1, 0.14, 0.3 };
-    const int an[4] = { r.bottom, r.bottom - r.Height() / 3, r.bottom - 2 * r.Height() / 3, r.top };
-    SetTable(p, 0, 3, ad, an);
-    std::vector<TextCall> calls = Labels(p);
-    EXPECT_EQ(3u, calls.size());
-    EXPECT_EQ(1, CountText(calls, "0.1"));
-    EXPECT_EQ(an[1] - L / 2, Where(calls, "0.1").y);
-
-    // Tics 0, 0.05, 0.10000051, 0.15000051, 0.2: tic 3 reads "0.2", the top
-    // end's text; tic 2 shows "0.1"; tic 1 reads "0.1" as well, the text
-    // last drawn, and is dropped.
-    const double ad2[5] = { 0.0, 0.05, 0.10000051, 0.15000051, 0.2 };
-    const int an2[5] = { r.bottom, r.bottom - r.Height() / 4, r.bottom - r.Height() / 2, r.bottom - 3 * r.Height() / 4,
-                         r.top };
-    SetTable(p, 0, 4, ad2, an2);
-    calls = Labels(p);
-    EXPECT_EQ(3u, calls.size());
-    EXPECT_EQ(1, CountText(calls, "0.1"));
-    EXPECT_EQ(an2[2] - L / 2, Where(calls, "0.1").y);
+    p->PutLabels(g.DC());
+    const int nTicOut = g.Metrics().tmHeight / 4 + 1;
+    EXPECT_EQ(nTicOut, g.m_dib.Count(anX[2], r.bottom, anX[2] + 1, r.bottom + 20, crGrid));
+    EXPECT_EQ(crGrid, g.m_dib.At(anX[2], r.bottom + nTicOut - 1));
+    EXPECT_EQ(0, g.m_dib.Count(anX[1], r.bottom, anX[1] + 1, r.bottom + 20, crGrid));
 }
 
 // ---------------------------------------------------------------------------
@@ -486,36 +380,4 @@ TEST(AxisText, TrueTypeAxisTitlesAreRotatedAndReadUpward)
     const CString strLong('W', 80);
     p->SetYAxisLabel(0, strLong);
     EXPECT_EQ(r.bottom, Where(Labels(p), (LPCSTR)strLong).y);
-}
-
-// ---------------------------------------------------------------------------
-// Tic extensions below the X axis
-// ---------------------------------------------------------------------------
-
-TEST(AxisText, TicExtensionsStandUnderDrawnNumbers)
-{
-    CanvasGraph g(500, 300);
-    CGraphPrv* p = g.Prv();
-    const COLORREF crGrid = 0x0000C0;
-    p->SetXAxisNumFmt("%.1f");
-    p->m_nMinorTics = 1;
-    p->m_dwGridType = GRID_BOTHWAYS;
-    p->m_crGrid = crGrid;
-    const CRect r = p->m_rectPlot;
-    const int nTicOut = g.Metrics().tmHeight / 4 + 1;
-    // Tic 1 next to the left end: its number is dropped, and with it its
-    // extension. Tics 2 and 3 keep theirs.
-    const double ad[5] = { 0.0, 0.2, 0.5, 0.7, 1.0 };
-    const int an[5] = { r.left, r.left + 2, r.left + r.Width() / 2, r.left + 3 * r.Width() / 4, r.right };
-    SetTable(p, X, 4, ad, an);
-    p->PutLabels(g.DC());
-    EXPECT_EQ(nTicOut, g.m_dib.Count(an[2], r.bottom, an[2] + 1, r.bottom + 20, crGrid));
-    EXPECT_EQ(crGrid, g.m_dib.At(an[2], r.bottom + nTicOut - 1));
-    EXPECT_EQ(nTicOut, g.m_dib.Count(an[3], r.bottom, an[3] + 1, r.bottom + 20, crGrid));
-    EXPECT_EQ(0, g.m_dib.Count(an[1], r.bottom, an[1] + 1, r.bottom + 20, crGrid));
-    // No grid: no extensions at all.
-    g.m_dib.Fill(WHITE);
-    p->m_dwGridType = GRID_NONE;
-    p->PutLabels(g.DC());
-    EXPECT_EQ(0, g.m_dib.CountAll(crGrid));
 }
