@@ -133,6 +133,8 @@ int CGraph::AddPropertyPage(CPropertyPage* pPage, DWORD dwId) { return m_pGraphP
 int CGraph::RemovePropertyPage(DWORD dwId) { return m_pGraphPrv->RemovePropertyPage(dwId); }
 int CGraph::SetPropertyPageConfiguration(long lConfig) { return m_pGraphPrv->SetPropertyPageConfiguration(lConfig); }
 int CGraph::EnableNotifications(CGraphNotify* pNotify, long lMask) { return m_pGraphPrv->EnableNotifications(pNotify, lMask); }
+int CGraph::EnableZoom(int bEnable) { return m_pGraphPrv->EnableZoom(bEnable); }
+int CGraph::DisplayMenu(POINT* pPoint) { return m_pGraphPrv->DisplayMenu(pPoint); }
 
 // Drawing
 int CGraph::ShowGrid(DWORD dwGridType) { return m_pGraphPrv->ShowGrid(dwGridType); }

@@ -126,6 +126,10 @@ public:
     int RemovePropertyPage(DWORD dwId);
     int SetPropertyPageConfiguration(long lConfig);
     int EnableNotifications(CGraphNotify* pNotify, long lMask);
+    // Rubber-band zoom with the left button in the plot (on by default).
+    int EnableZoom(int bEnable);
+    // The context menu at a point in screen coordinates.
+    int DisplayMenu(POINT* pPoint);
 
     // ---- Drawing --------------------------------------------------------------
     int ShowGrid(DWORD dwGridType);

@@ -108,3 +108,11 @@
 #define NUMFMT_MAX_WIDTH      64      // widest field width a number format may ask for
 #define NUMFMT_MAX_PRECISION  32      // most digits of precision a number format may ask for
 #define NUMFMT_BUFFER         256     // bytes of the buffer of one axis number (FormatLabelSuitably)
+
+// ---- Entries of the context menu (m_lMenuConfig) ---------------------------
+#define GM_COPY               0x01    // "copy" stays
+#define GM_CROSSHAIR          0x02    // the cross hair's sub-menu stays
+#define GM_LABEL              0x04    // "label" stays
+#define GM_LEGEND             0x08    // "legend" stays
+#define GM_RADAR              0x10    // "scale to the data" stays
+#define GM_RESERVED20         0x20    // part of the default 63; nothing tests it

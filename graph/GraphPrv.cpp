@@ -8,12 +8,6 @@
 
 IMPLEMENT_DYNCREATE(CGraphPrv, CWnd)
 
-BEGIN_MESSAGE_MAP(CGraphPrv, CWnd)
-    ON_WM_DESTROY()
-    ON_WM_PAINT()
-    // (message map entries)
-END_MESSAGE_MAP()
-
 CGraphPrv::CGraphPrv()
     : m_dwState(GST_RADAR_DBLCLK), m_bFGPlot(false), m_bBGPlot(false), m_dwStyle(0x71),
       m_nGridPenWidth(1), m_crBackground(0xFFFFFF), m_nAutoScaleMode(0), m_dwGridType(1),

@@ -147,6 +147,31 @@ public:
     int SetPropertyPageConfiguration(long lConfig);
     // The host's notification sink and the notifications it wants (GN_ bits).
     int EnableNotifications(CGraphNotify* pNotify, long lMask);
+    // Rubber-band zoom allowed; read at each press, so a drag under way ends
+    // normally.
+    int EnableZoom(int bEnable);
+    // The context menu at a point in screen coordinates, whether or not the
+    // menu is enabled; 1, also when the menu resource cannot be had.
+    int DisplayMenu(POINT* pPoint);
+    // The cross hair: the toggles, the switches, and its state (0 or 1).
+    int DisplayCrossHair();
+    int DisplayCrossHair(int bShow);
+    int IsCrossHairVisible();
+    int IsCrossHairLocked();
+    int LockCrossHair();
+    int LockCrossHair(int bLock);
+    // The legend: the toggle, the switch, and whether the host or the user
+    // has it on (not whether its window is visible).
+    int ShowLegend();
+    int ShowLegend(int bShow);
+    int IsLegendVisible();
+    // The picture of the graph on the clipboard.
+    int CopyToClipboard();
+    // A floating label at the pointer, or at a point in screen coordinates.
+    int AddFloatingLabel();
+    int AddFloatingLabel(CPoint ptScreen);
+    // The property sheet with the configured pages and the host's.
+    int Properties(CString& strCaption);
 
     // ---- render/: the plot pipeline and drawers -----------------------------
     int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
@@ -289,9 +314,27 @@ protected:
     void NotifyApplication(UINT nPageId);
     void NotifyApplication(CPoint point);
 
-    // ---- message handlers ---------------------------------------------------
-    afx_msg void OnDestroy();
+    // ---- message handlers (interact/MouseDispatch.cpp holds the map) ---------
     afx_msg void OnPaint();
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg void OnDestroy();
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnDeleteLabel(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnFinishedEditingLabel(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetLabelColor(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetLabelFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetLabelPointSize(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnLegendPosChange(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    // Commands of the context menu, and the host's entries (interact/Menus.cpp).
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -334,6 +377,23 @@ private:
     void XformPlotData(CPlotData* pData, POINT* pPoints);
     int IsPointInPlotRect(double& dValue, int nKind);
     int IsPointInPlotRect(int& nPixel, int nKind);
+
+    // ---- interact/ (private) ------------------------------------------------
+    // The rubber band: captured and confined at the press, an inverted
+    // outline drawn twice to go, limits from the box at the release.
+    void StartZoom(CPoint* pPoint);
+    void NotBox();
+    void EndZoom();
+    // The inline editor over the printed limit of slot iSlot (LIMIT_ slots).
+    void OpenLimitEditor(int iSlot);
+    // The marker line under the mouse, and the end of its value tip.
+    void MoveMarkerLine(long nFlags, CPoint point);
+    void EndDisplayingMLValue();
+    // A press on a floating label selects it (TRUE); DropLabelSelection
+    // deletes the tracker and deselects the label.
+    BOOL SelectLabelAt(CPoint point);
+    void DropLabelSelection();
+    void FloatingLabelHitTest(UINT nFlags, CPoint point);
 
     // ---- render/ (private) --------------------------------------------------
     // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when
@@ -434,4 +494,5 @@ public:
     CString m_strMaxLenFormat;        // format that gives the widest number
     CString m_strLastXNumFmt;         // X format at the last SizeGraph
     CString m_strLastYNumFmt;         // left Y format at the last SizeGraph
+    CBrush m_brushCtlStatic;          // background of the graph's static children, made once
 };

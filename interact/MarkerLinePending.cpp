@@ -19,3 +19,13 @@ void CGraphPrv::OnSeriesDataReplaced(CPlotData*)
 {
     // Placeholder: the marker line stays on valid data here.
 }
+
+void CGraphPrv::MoveMarkerLine(long, CPoint)
+{
+    // Placeholder: the pointer takes hold of a marker line and drags it here.
+}
+
+void CGraphPrv::EndDisplayingMLValue()
+{
+    // Placeholder: the marker's value tip goes and the host is told here.
+}
