@@ -87,6 +87,8 @@ void CGraphPrv::TakeOffLegend()
 
 int CGraphPrv::ReSizeGraph(CRect* pRect)
 {
+    if (pRect == NULL)
+        return GRAPH_BADARG;
     if (m_hWnd == NULL)
         return 0;
 
@@ -137,6 +139,8 @@ int CGraphPrv::ReSizeGraph(CRect* pRect)
 
 int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis)
 {
+    if (pDC == NULL)
+        return GRAPH_BADARG;
     m_rectGraph.SetRect(x, y, x + nWidth, y + nHeight);
     TakeOffLegend();
 
@@ -171,6 +175,8 @@ int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bR
 
 int CGraphPrv::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
 {
+    if (pDC == NULL || pnWidth == NULL || pnHeight == NULL)
+        return GRAPH_BADARG;
     // Works on a copy of the font description: the graph does not change.
     static LOGFONT s_logFont;
     s_logFont = m_logFont;

@@ -43,6 +43,8 @@ void CGraphPrv::OnPaint()
 
 int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
 {
+    if (pDC == NULL)
+        return GRAPH_BADARG;
     if (m_dwStyle & GS_NOPLOT)
         return GRAPH_NOTAVAILABLE;
     if (m_nAutoScaleMode)

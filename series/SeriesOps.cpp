@@ -54,6 +54,9 @@ int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, flo
 int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, double* pdX, double* pdY, long lPoints,
                            DWORD crColor, int nLineStyle, int nAnnotate)
 {
+    // The doubles are read here and now, unlike float arrays that are kept.
+    if (pdX == NULL || pdY == NULL)
+        return GRAPH_BADARG;
     if (FindPlotData(strName) != NULL)
         return GRAPH_SERIESEXISTS;
     CPlotData* pData = NewPlotData(strName);
@@ -165,6 +168,8 @@ int CGraphPrv::UpdatePlotData(const CString& strName, float* pfX, float* pfY, lo
 
 int CGraphPrv::UpdatePlotData(const CString& strName, double* pdX, double* pdY, long lFirst, long lPoints)
 {
+    if (pdX == NULL || pdY == NULL)
+        return GRAPH_BADARG;
     CSingleLock lock(&m_csPlotData, TRUE);
     CPlotData* pData = FindPlotData(strName);
     if (pData == NULL)
