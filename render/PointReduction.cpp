@@ -285,6 +285,9 @@ long ReduceSeries(CPlotData* pPlotData, const PIXELXFORM& xf)
 
 void CGraphPrv::OptimizePoints(CPlotData* pPlotData)
 {
+    // The arrays and the count are read together, as a host thread's update
+    // leaves them.
+    CSingleLock lock(&m_csPlotData, TRUE);
     if (pPlotData->m_lPoints < 1)
         return;
     if (pPlotData->m_pfXData == NULL) {

@@ -1,6 +1,149 @@
-// Hostile data paths: allocations that fail inside the double overloads.
+// Hostile data paths: a host thread replacing a series while the window
+// paints scaled to the data, and allocations that fail inside the double
+// overloads.
 #include "TestUtil.h"
+#include <atomic>
+#include <thread>
 #include <vector>
+
+namespace {
+
+// Room for n floats that ends where a page without access begins: a reader
+// that takes a longer count with this array faults at once.
+class GuardedFloats
+{
+public:
+    explicit GuardedFloats(int n) : m_pBase((BYTE*)::VirtualAlloc(NULL, 2 * 4096, MEM_COMMIT, PAGE_READWRITE))
+    {
+        DWORD dwOld;
+        ::VirtualProtect(m_pBase + 4096, 4096, PAGE_NOACCESS, &dwOld);
+        m_pf = (float*)(m_pBase + 4096) - n;
+    }
+    ~GuardedFloats() { ::VirtualFree(m_pBase, 0, MEM_RELEASE); }
+    float& operator[](int i) { return m_pf[i]; }
+    float* m_pf;
+
+private:
+    BYTE* m_pBase;
+};
+
+// Access violations anywhere in the process, counted before any handler
+// sees them: the system's dispatch of a paint would swallow them silently.
+std::atomic<int> g_nFaults(0);
+
+LONG CALLBACK CountFault(EXCEPTION_POINTERS* pInfo)
+{
+    if (pInfo->ExceptionRecord->ExceptionCode == EXCEPTION_ACCESS_VIOLATION)
+        g_nFaults++;
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+} // namespace
+
+TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
+{
+    GraphInHost g;
+    g.Show();
+    CGraph& graph = g.m_graph;
+    const HWND hWnd = g.Prv()->m_hWnd;
+    EXPECT_EQ(GRAPH_OK, graph.SetAutoScaleMode(1));
+    EXPECT_EQ(GRAPH_OK, graph.SetRadarPercent(0.0, 0.0));   // limits equal to the data's extent
+
+    GuardedFloats fX16(16), fY16(16), fX8(8), fY8(8);
+    // The owned copies of the doubles are large enough for the heap to give
+    // their pages back when they are freed: a reader still in them faults.
+    const long nDoubles = 1 << 18;
+    std::vector<double> adX(nDoubles), adY(nDoubles);
+    for (long i = 0; i < nDoubles; i++) {
+        adX[i] = -50.0 + i * 1e-3;
+        adY[i] = (double)(i % 100);
+    }
+    double adXLast[12], adYLast[12];
+    for (int i = 0; i < 16; i++) {
+        fX16[i] = (float)i;
+        fY16[i] = (float)(i * i);
+        if (i < 8) {
+            fX8[i] = (float)(100 + i);
+            fY8[i] = (float)-i;
+        }
+        if (i < 12) {
+            adXLast[i] = 1000.0 + i;
+            adYLast[i] = 5.0 * i;
+        }
+    }
+    ASSERT_EQ(GRAPH_OK, graph.AddPlotData("s", PLOT_YLEFT, fX16.m_pf, fY16.m_pf, 16, 0xFF0000, PS_SOLID, 0));
+    CPlotData* pData = FindSeries(graph, "s");
+    double dMin = 0, dMax = 0;
+    PVOID pFaultHandler = ::AddVectoredExceptionHandler(1, CountFault);
+
+    // An update caught half done, as UpdatePlotData leaves it between its
+    // stores: the arrays of 8 points with the count of 16 still standing. A
+    // paint that reads the series without the lock faults on the guard page;
+    // one that takes the lock waits and then scales to the 8 points.
+    {
+        std::atomic<bool> bHeld(false);
+        std::thread updater([&] {
+            CSingleLock lock(&g.Prv()->m_csPlotData, TRUE);
+            pData->m_pfXData = fX8.m_pf;
+            pData->m_pfYData = fY8.m_pf;
+            bHeld = true;
+            ::Sleep(300);
+            pData->m_lPoints = 8;
+        });
+        while (!bHeld)
+            ::Sleep(1);
+        const DWORD dwStart = ::GetTickCount();
+        ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        EXPECT_GE(::GetTickCount() - dwStart, 200u);
+        updater.join();
+        EXPECT_EQ(GRAPH_OK, graph.GetXAxisLimits(&dMin, &dMax));
+        EXPECT_EQ("100 107", Str("%g %g", dMin, dMax));
+    }
+
+    // The host thread swaps arrays of 16 and 8 floats and owned copies of
+    // doubles while the window paints, for at most 400 paints or a second;
+    // its last update is the doubles' last.
+    std::atomic<bool> bStop(false);
+    int nUpdates = 0, nRefused = 0;
+    std::thread host([&] {
+        for (; !bStop && nUpdates < 5000000; nUpdates++) {
+            int nResult;
+            switch (nUpdates % 4) {
+            case 0: nResult = graph.UpdatePlotData("s", fX16.m_pf, fY16.m_pf, 0, 16); break;
+            case 1: nResult = graph.UpdatePlotData("s", fX8.m_pf, fY8.m_pf, 0, 8); break;
+            default: nResult = graph.UpdatePlotData("s", adX.data(), adY.data(), 0, nDoubles); break;
+            }
+            nRefused += nResult != GRAPH_OK;
+        }
+        nRefused += graph.UpdatePlotData("s", adXLast, adYLast, 0, 12) != GRAPH_OK;
+        nUpdates++;
+    });
+    int nPaints = 0;
+    for (const DWORD dwStart = ::GetTickCount(); nPaints < 400 && ::GetTickCount() - dwStart < 1000; nPaints++)
+        ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    bStop = true;
+    host.join();
+    ::RemoveVectoredExceptionHandler(pFaultHandler);
+    printf("[ hostile  ] %d updates from the host thread, %d paints\n", nUpdates, nPaints);
+    EXPECT_EQ(0, g_nFaults.load());
+    EXPECT_EQ(0, nRefused);
+    EXPECT_GT(nUpdates, nPaints);
+
+    // The series holds the last update's data, and a paint scales to it.
+    ASSERT_EQ(pData, FindSeries(graph, "s"));
+    ASSERT_EQ(12, pData->m_lPoints);
+    EXPECT_TRUE(pData->m_bOwnXData && pData->m_bOwnYData);
+    EXPECT_EQ(0, pData->m_lStartIndex);
+    for (int i = 0; i < 12; i++) {
+        EXPECT_EQ((float)adXLast[i], pData->m_pfXData[i]);
+        EXPECT_EQ((float)adYLast[i], pData->m_pfYData[i]);
+    }
+    ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    EXPECT_EQ(GRAPH_OK, graph.GetXAxisLimits(&dMin, &dMax));
+    EXPECT_EQ("1000 1011", Str("%g %g", dMin, dMax));
+    EXPECT_EQ(GRAPH_OK, graph.GetYAxisLimits(&dMin, &dMax, 0));
+    EXPECT_EQ("0 55", Str("%g %g", dMin, dMax));
+}
 
 TEST(HostileData, FailedAllocationsOfTheDoubleOverloadsChangeNothing)
 {
