@@ -114,6 +114,10 @@ TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
             default: nResult = graph.UpdatePlotData("s", adX.data(), adY.data(), 0, nDoubles); break;
             }
             nRefused += nResult != GRAPH_OK;
+            // The lock is not fair: without a pause a waiting paint could
+            // starve while this thread takes the lock again and again.
+            if (nUpdates % 4 == 3)
+                ::Sleep(1);
         }
         nRefused += graph.UpdatePlotData("s", adXLast, adYLast, 0, 12) != GRAPH_OK;
         nUpdates++;
