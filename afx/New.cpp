@@ -5,8 +5,22 @@
 #include <new>
 #include <stdlib.h>
 
+namespace {
+
+// Allocations left before the one that fails; -1 when none is to fail.
+volatile LONG s_nAllocsBeforeFailure = -1;
+
+} // namespace
+
+void AFXAPI AfxSetAllocFailure(int nAfter)
+{
+    ::InterlockedExchange(&s_nAllocsBeforeFailure, nAfter < 0 ? -1 : nAfter);
+}
+
 void* operator new(size_t nSize)
 {
+    if (s_nAllocsBeforeFailure >= 0 && ::InterlockedDecrement(&s_nAllocsBeforeFailure) == -1)
+        AfxThrowMemoryException();
     void* p = malloc(nSize != 0 ? nSize : 1);
     if (p == NULL)
         AfxThrowMemoryException();

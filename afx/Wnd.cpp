@@ -168,8 +168,9 @@ CWnd* PASCAL CWnd::FromHandle(HWND hWnd)
 
 BOOL CWnd::Attach(HWND hWndNew)
 {
-    ASSERT(m_hWnd == NULL);
-    if (hWndNew == NULL)
+    // An object stands for one window: a second one is refused, or the
+    // first would lose its object while still sending it messages.
+    if (m_hWnd != NULL || hWndNew == NULL)
         return FALSE;
     m_hWnd = hWndNew;
     ::SetPropA(hWndNew, s_szPropWnd, (HANDLE)this);
@@ -214,9 +215,12 @@ LRESULT CALLBACK AfxCbtFilterHook(int code, WPARAM wParam, LPARAM lParam)
 {
     if (code == HCBT_CREATEWND && t_pWndInit != NULL && !IsImeWindow((HWND)wParam)) {
         // The first window made after CreateEx armed the hook is its window.
+        // An object that has a window already refuses it, and a nonzero
+        // answer makes the system abandon the creation.
         CWnd* pWnd = t_pWndInit;
         t_pWndInit = NULL;
-        pWnd->SubclassWindow((HWND)wParam);
+        if (!pWnd->SubclassWindow((HWND)wParam))
+            return 1;
     }
     return ::CallNextHookEx(t_hHookCbt, code, wParam, lParam);
 }
@@ -238,6 +242,10 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName
     cs.hMenu = nIDorHMenu;
     cs.hInstance = AfxGetInstanceHandle();
     cs.lpCreateParams = lpParam;
+    // A second window for an object that has one is refused before anything
+    // is made; the object and its window stay as they are.
+    if (m_hWnd != NULL)
+        return FALSE;
     if (!PreCreateWindow(cs)) {
         PostNcDestroy();
         return FALSE;
@@ -261,7 +269,8 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName
         // A window that failed in WM_NCCREATE or WM_CREATE was bound and has
         // been destroyed again: its WM_NCDESTROY unbound this object and ran
         // PostNcDestroy, after which the object may be gone. A window that
-        // was never made gets the final clean-up here.
+        // the hook refused leaves the object bound to its first window. A
+        // window that was never made gets the final clean-up here.
         if (!bBound)
             PostNcDestroy();
         return FALSE;

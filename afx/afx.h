@@ -133,6 +133,10 @@ public:
 AFX_EXT_API void AFXAPI AfxThrowMemoryException();
 AFX_EXT_API void AFXAPI AfxThrowResourceException();
 
+// Test facility: the (nAfter+1)-th following operator new of the library
+// throws CMemoryException, once; a negative nAfter disarms it.
+AFX_EXT_API void AFXAPI AfxSetAllocFailure(int nAfter);
+
 // ---------------------------------------------------------------------------
 // CString: a narrow string of the ANSI code page with value semantics.
 // Comparisons and searches are multibyte-aware in the system's code page.

@@ -73,6 +73,8 @@ void CGraphPrv::TakeOffLegend()
 
 int CGraphPrv::ReSizeGraph(CRect* pRect)
 {
+    if (pRect == NULL)
+        return GRAPH_BADARG;
     if (m_hWnd == NULL)
         return 0;
 
@@ -123,6 +125,8 @@ int CGraphPrv::ReSizeGraph(CRect* pRect)
 
 int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis)
 {
+    if (pDC == NULL)
+        return GRAPH_BADARG;
     m_rectGraph.SetRect(x, y, x + nWidth, y + nHeight);
     TakeOffLegend();
 
@@ -148,6 +152,8 @@ int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bR
 
 int CGraphPrv::GetMinimumGraphSize(CDC* pDC, int* pnWidth, int* pnHeight)
 {
+    if (pDC == NULL || pnWidth == NULL || pnHeight == NULL)
+        return GRAPH_BADARG;
     TEXTMETRIC tm;
     int D, S;
     {

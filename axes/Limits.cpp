@@ -62,6 +62,8 @@ int CGraphPrv::SetXAxisLimits(double dMin, double dMax)
 
 int CGraphPrv::GetXAxisLimits(double* pdMin, double* pdMax)
 {
+    if (pdMin == NULL || pdMax == NULL)
+        return GRAPH_BADARG;
     *pdMin = m_dXMin;
     *pdMax = m_dXMax;
     return GRAPH_OK;
@@ -75,7 +77,7 @@ int CGraphPrv::SetYAxisLimits(double dMin, double dMax, int nAxis)
 
 int CGraphPrv::GetYAxisLimits(double* pdMin, double* pdMax, int nAxis)
 {
-    if (nAxis != 0 && nAxis != 1)
+    if ((nAxis != 0 && nAxis != 1) || pdMin == NULL || pdMax == NULL)
         return GRAPH_BADARG;
     *pdMin = m_dYMin[nAxis];
     *pdMax = m_dYMax[nAxis];
@@ -101,6 +103,8 @@ int CGraphPrv::SetLimitFlip(DWORD dwFlags)
 
 int CGraphPrv::GetLimitFlip(DWORD* pdwFlags)
 {
+    if (pdwFlags == NULL)
+        return GRAPH_BADARG;
     *pdwFlags = m_dwStyle;
     return GRAPH_OK;
 }

@@ -196,6 +196,8 @@ int CGraphPrv::SetRadarType(WORD wFlags)
 
 int CGraphPrv::GetRadarType(WORD* pwFlags)
 {
+    if (pwFlags == NULL)
+        return GRAPH_BADARG;
     *pwFlags = m_wRadarType;
     return GRAPH_OK;
 }

@@ -213,6 +213,8 @@ int CGraphPrv::SetTicMarkType(int nTicType, int nMinorTics, CDC* pDC)
 
 int CGraphPrv::GetTicMarkType(int* pnTicType, int* pnMinorTics)
 {
+    if (pnTicType == NULL || pnMinorTics == NULL)
+        return GRAPH_BADARG;
     *pnTicType = m_nXTicType;
     *pnMinorTics = m_nMinorTics;
     return GRAPH_OK;

@@ -136,6 +136,7 @@ double CGraphPrv::PixelToDataYRpt(int nY, int nAxis)
 void CGraphPrv::XformPlotData(CPlotData* pData, POINT* pPoints)
 {
     ASSERT(pData != NULL && pPoints != NULL);
+    CSingleLock lock(&m_csPlotData, TRUE);   // a host thread may swap the arrays
     double dXScale, dXOffset, dYScale, dYOffset;
     HorzXform(&dXScale, &dXOffset);
     dXOffset += AXES_ROUNDING;

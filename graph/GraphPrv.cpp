@@ -8,6 +8,25 @@
 
 IMPLEMENT_DYNCREATE(CGraphPrv, CWnd)
 
+namespace {
+
+// The metrics of pFont in the context of pWnd (null: the screen); FALSE,
+// with tm untouched, when the window has no context.
+BOOL FontMetricsIn(CWnd* pWnd, CFont* pFont, TEXTMETRIC& tm)
+{
+    try {
+        CClientDC dc(pWnd);
+        CSelectGuard selectFont(&dc, pFont);
+        dc.GetTextMetrics(&tm);
+    } catch (CException* e) {
+        e->Delete();
+        return FALSE;
+    }
+    return TRUE;
+}
+
+} // namespace
+
 CGraphPrv::CGraphPrv()
     : m_dwState(GST_RADAR_DBLCLK), m_bFGPlot(false), m_bBGPlot(false), m_dwStyle(0x71),
       m_nGridPenWidth(1), m_crBackground(0xFFFFFF), m_nAutoScaleMode(0), m_dwGridType(1),
@@ -80,6 +99,10 @@ CGraphPrv::~CGraphPrv()
 
 int CGraphPrv::CreateGraph(CWnd* pParent, HINSTANCE, CRect& rect, DWORD dwStyle, UINT nID, long lMenuConfig)
 {
+    // A graph has one window: a second creation is refused and changes
+    // nothing, so that the first window and its legend stay bound.
+    if (m_hWnd != NULL)
+        return 0;
     m_dwStyle = dwStyle;
     m_rectGraph = rect;
     m_lMenuConfig = lMenuConfig;
@@ -102,14 +125,13 @@ int CGraphPrv::CreateGraph(CWnd* pParent, HINSTANCE, CRect& rect, DWORD dwStyle,
 
 void CGraphPrv::InitMemberVariables(CWnd* pParent)
 {
-    // The parent's context gives the metrics of the graph's font.
+    // The parent's context gives the metrics of the graph's font. A parent
+    // that is no window (the creation then failed) has no context: the
+    // screen's stands in, so that the graph still gets its windowless layout.
     TEXTMETRIC tm;
     memset(&tm, 0, sizeof(tm));
-    {
-        CClientDC dc(pParent);
-        CSelectGuard selectFont(&dc, &m_font);
-        dc.GetTextMetrics(&tm);
-    }
+    if (!FontMetricsIn(pParent, &m_font, tm))
+        FontMetricsIn(NULL, &m_font, tm);
 
     if (m_hWnd != NULL)
         GetClientRect(&m_rectGraph);
@@ -118,7 +140,7 @@ void CGraphPrv::InitMemberVariables(CWnd* pParent)
     ResetTicTables();
     CalcTicMarkPixels();
 
-    if (!(m_dwStyle & GS_NOWINDOW))
+    if (m_hWnd != NULL)
         m_legend.Create(this, LEGEND_RIGHT);
 
     // Series and labels that arrived before creation (as from an archive).

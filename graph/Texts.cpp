@@ -17,12 +17,16 @@ int CGraphPrv::RightAxisDisplayed()
 
 int CGraphPrv::GetGraphClientRect(RECT* pRect)
 {
+    if (pRect == NULL)
+        return GRAPH_BADARG;
     *pRect = m_rectGraph;
     return GRAPH_OK;
 }
 
 int CGraphPrv::GetGraphScreenRect(RECT* pRect)
 {
+    if (pRect == NULL)
+        return GRAPH_BADARG;
     *pRect = m_rectGraph;
     ClientToScreen(pRect);
     return GRAPH_OK;

@@ -5,17 +5,22 @@
 
 int CGraphPrv::SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText)
 {
+    if (pLogFont == NULL)
+        return GRAPH_BADARG;
     m_crText = crText;
     m_nPointSize = nPointSize;
-    m_strFaceName = pLogFont->lfFaceName;
-    m_lFontWeight = pLogFont->lfWeight;
-    m_bFontItalic = pLogFont->lfItalic;
 
     CClientDC dc(m_hWnd != NULL ? this : NULL);
 
-    // From here on lfHeight holds tenths of a point, not device units.
+    // From here on lfHeight holds tenths of a point, not device units. A
+    // host's face name may fill all of its bytes without a terminator: the
+    // last byte of the field always ends it.
     m_logFont = *pLogFont;
+    m_logFont.lfFaceName[LF_FACESIZE - 1] = '\0';
     m_logFont.lfHeight = m_nPointSize;
+    m_strFaceName = m_logFont.lfFaceName;
+    m_lFontWeight = m_logFont.lfWeight;
+    m_bFontItalic = m_logFont.lfItalic;
     m_font.DeleteObject();
     m_font.CreatePointFontIndirect(&m_logFont, NULL);
 
@@ -37,6 +42,8 @@ int CGraphPrv::SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText)
 
 int CGraphPrv::GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText)
 {
+    if (pLogFont == NULL || pnPointSize == NULL || pcrText == NULL)
+        return GRAPH_BADARG;
     *pLogFont = m_logFont;
     *pnPointSize = m_nPointSize;
     *pcrText = m_crText;

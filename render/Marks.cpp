@@ -148,6 +148,7 @@ void CGraphPrv::Annotate(CDC* pDC, double dX, double dY, int nYAxis, int nMark)
 
 void CGraphPrv::AnnotatePlotData(CDC* pDC, CPlotData* pPlotData)
 {
+    CSingleLock lock(&m_csPlotData, TRUE);   // a host thread may swap the arrays
     const long lPoints = pPlotData->m_lPoints;
     if (lPoints < 1 || pPlotData->m_pfXData == NULL || pPlotData->m_pfYData == NULL)
         return;
@@ -182,6 +183,7 @@ int CGraphPrv::AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, in
 
 int CGraphPrv::AnnotateLine(CString& strName, int nMark, int nStep)
 {
+    CSingleLock lock(&m_csPlotData, TRUE);   // a host thread may swap the arrays
     CPlotData* pData = FindPlotData(strName);
     if (pData == NULL || pData->m_lPoints < 1)
         return GRAPH_NOSERIES;

@@ -44,8 +44,14 @@ void CGraphPrv::OnPaint()
 
 int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
 {
+    if (pDC == NULL)
+        return GRAPH_BADARG;
     if (m_dwStyle & GS_NOPLOT)
         return GRAPH_NOTAVAILABLE;
+    // Scaled to the data, the picture holds the series lock from the scan to
+    // the last series drawn: a host thread's update then cannot slip in
+    // between, and the limits fit the data that is drawn.
+    CSingleLock lockScaled(&m_csPlotData, m_nAutoScaleMode != 0);
     if (m_nAutoScaleMode)
         Radar(RADAR_X | RADAR_YLEFT | RADAR_YRIGHT);   // always all three axes
 
@@ -122,6 +128,7 @@ void CGraphPrv::PlotPoints(CDC* pDC)
 
 void CGraphPrv::OptimizePlotData()
 {
+    CSingleLock lock(&m_csPlotData, TRUE);
     m_bPointsStale = FALSE;
     POSITION pos = m_mapPlotData.GetStartPosition();
     while (pos != NULL) {

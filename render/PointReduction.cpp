@@ -288,6 +288,9 @@ void CGraphPrv::OptimizePoints(CPlotData* pPlotData)
 {
     // Runs under the series lock or on the window's thread alone.
     ASSERT(pPlotData != NULL);
+    // The arrays and the count are read together, as a host thread's update
+    // leaves them.
+    CSingleLock lock(&m_csPlotData, TRUE);
     if (pPlotData->m_lPoints < 1)
         return;
     if (pPlotData->m_pfXData == NULL) {

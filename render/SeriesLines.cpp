@@ -34,6 +34,8 @@ inline long ClampIndex(long nIndex, long nCount)
 int CGraphPrv::PlotPixels(CDC* pDC, CPlotData* pPlotData)
 {
     ASSERT(pDC != NULL && pPlotData != NULL);
+    // The count read below must be the one the pixels were made from.
+    CSingleLock lock(&m_csPlotData, TRUE);
     const bool bScaled = pDC->GetMapMode() == MM_ANISOTROPIC;
     CPlotRectRestore restorePlot(m_rectPlot);
     std::unique_ptr<POINT[]> pCopy;   // the scaled paint draws from a copy of the pixels

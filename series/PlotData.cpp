@@ -54,31 +54,35 @@ CPlotData::~CPlotData()
 
 BOOL CPlotData::SetDoubleData(double* pdX, double* pdY, long lPoints)
 {
-    m_pdXData = pdX;
-    m_pdYData = pdY;
-    m_lPoints = lPoints;
-    size_t nCount = lPoints > 0 ? (size_t)lPoints : 0;
+    // Both copies are made before anything of the series changes: without
+    // memory for either, the series keeps its arrays and count.
+    const size_t nCount = lPoints > 0 ? (size_t)lPoints : 0;
+    float* pfX = NULL;
+    float* pfY = NULL;
     try {
-        if (m_bOwnXData && m_pfXData != NULL) {
-            delete[] m_pfXData;
-            m_pfXData = NULL;
-        }
-        m_pfXData = new float[nCount];
-        m_bOwnXData = TRUE;
-        if (m_bOwnYData && m_pfYData != NULL) {
-            delete[] m_pfYData;
-            m_pfYData = NULL;
-        }
-        m_pfYData = new float[nCount];
-        m_bOwnYData = TRUE;
+        pfX = new float[nCount];
+        pfY = new float[nCount];
     } catch (CException* e) {
         e->Delete();
+        delete[] pfX;
         return FALSE;
     }
-    ConvertToFloat(pdX, m_pfXData, lPoints, FloatFromBits(PLOTDATA_X_OVERFLOW_BITS));
-    ConvertToFloat(pdY, m_pfYData, lPoints, FloatFromBits(PLOTDATA_Y_OVERFLOW_BITS));
+    m_pdXData = pdX;
+    m_pdYData = pdY;
+    ConvertToFloat(pdX, pfX, lPoints, FloatFromBits(PLOTDATA_X_OVERFLOW_BITS));
+    ConvertToFloat(pdY, pfY, lPoints, FloatFromBits(PLOTDATA_Y_OVERFLOW_BITS));
     m_pdXData = NULL;
     m_pdYData = NULL;
+
+    if (m_bOwnXData)
+        delete[] m_pfXData;
+    if (m_bOwnYData)
+        delete[] m_pfYData;
+    m_pfXData = pfX;
+    m_pfYData = pfY;
+    m_bOwnXData = TRUE;
+    m_bOwnYData = TRUE;
+    m_lPoints = lPoints;
     return TRUE;
 }
 

@@ -21,8 +21,9 @@ public:
     CPlotData();
     virtual ~CPlotData();
 
-    // Replaces the arrays with owned float copies of the host's doubles;
-    // 1, or 0 when memory fails (the pointers then refer to nothing freed).
+    // Replaces the arrays and the count with owned float copies of the
+    // host's doubles; 1, or 0 when memory fails, with arrays and count left
+    // as they were.
     BOOL SetDoubleData(double* pdX, double* pdY, long lPoints);
     int SetAnnotateColor(COLORREF crAnnotate);
     COLORREF GetAnnotateColor();

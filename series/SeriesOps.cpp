@@ -53,6 +53,9 @@ int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, float* pfX, flo
 int CGraphPrv::AddPlotData(const CString& strName, DWORD dwAxis, double* pdX, double* pdY, long lPoints,
                            DWORD crColor, int nLineStyle, int nAnnotate)
 {
+    // The doubles are read here and now, unlike float arrays that are kept.
+    if (pdX == NULL || pdY == NULL)
+        return GRAPH_BADARG;
     if (FindPlotData(strName) != NULL)
         return GRAPH_SERIESEXISTS;
     CPlotData* pData = NewPlotData(strName);
@@ -117,17 +120,22 @@ int CGraphPrv::FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD 
 
     GetRadarValues(pData);
 
+    BOOL bInMap = FALSE;
     try {
         delete[] pData->m_pPointArray;
         pData->m_pPointArray = NULL;
         pData->m_pPointArray = new POINT[lPoints > 0 ? (size_t)lPoints : 0];
         m_mapPlotData.SetAt(pData->m_strName, pData);
+        bInMap = TRUE;
+        AddSeriesToLegend(pData);
     } catch (CException* e) {
+        // The caller destroys the series: it must not stay in the map. The
+        // legend adds nothing when its entry cannot be made.
         e->Delete();
+        if (bInMap)
+            m_mapPlotData.RemoveKey(pData->m_strName);
         return GRAPH_NOMEMORY;
     }
-
-    AddSeriesToLegend(pData);
     return GRAPH_OK;
 }
 
@@ -163,19 +171,17 @@ int CGraphPrv::UpdatePlotData(const CString& strName, float* pfX, float* pfY, lo
 
 int CGraphPrv::UpdatePlotData(const CString& strName, double* pdX, double* pdY, long lFirst, long lPoints)
 {
+    if (pdX == NULL || pdY == NULL)
+        return GRAPH_BADARG;
+    // The old copies are freed under the lock, when no paint can be reading them.
     CSingleLock lock(&m_csPlotData, TRUE);
     CPlotData* pData = FindPlotData(strName);
     if (pData == NULL)
         return GRAPH_NOSERIES;
-    if (!pData->SetDoubleData(pdX, pdY, lPoints)) {
-        // Without memory for the copies the series is lost.
-        m_mapPlotData.RemoveKey(strName);
-        if (m_legend.m_hWnd != NULL)
-            m_legend.RemoveEntry(strName);
-        OnSeriesRemoved(pData);
-        DestroyPlotData(pData);
+    // Without memory for the copies the series keeps its old data: the host
+    // may try again, and no message to the legend waits under the lock.
+    if (!pData->SetDoubleData(pdX, pdY, lPoints))
         return GRAPH_NOMEMORY;
-    }
     // The copies hold exactly the points converted: a first index other than
     // 0 would make the readers run past their end, so it is not used here.
     (void)lFirst;

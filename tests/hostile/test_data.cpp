@@ -1,0 +1,205 @@
+// Hostile data paths: a host thread replacing a series while the window
+// paints scaled to the data, and allocations that fail inside the double
+// overloads.
+#include "TestUtil.h"
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+// Room for n floats that ends where a page without access begins: a reader
+// that takes a longer count with this array faults at once.
+class GuardedFloats
+{
+public:
+    explicit GuardedFloats(int n) : m_pBase((BYTE*)::VirtualAlloc(NULL, 2 * 4096, MEM_COMMIT, PAGE_READWRITE))
+    {
+        DWORD dwOld;
+        ::VirtualProtect(m_pBase + 4096, 4096, PAGE_NOACCESS, &dwOld);
+        m_pf = (float*)(m_pBase + 4096) - n;
+    }
+    ~GuardedFloats() { ::VirtualFree(m_pBase, 0, MEM_RELEASE); }
+    float& operator[](int i) { return m_pf[i]; }
+    float* m_pf;
+
+private:
+    BYTE* m_pBase;
+};
+
+// Access violations anywhere in the process, counted before any handler
+// sees them: the system's dispatch of a paint would swallow them silently.
+std::atomic<int> g_nFaults(0);
+
+LONG CALLBACK CountFault(EXCEPTION_POINTERS* pInfo)
+{
+    if (pInfo->ExceptionRecord->ExceptionCode == EXCEPTION_ACCESS_VIOLATION)
+        g_nFaults++;
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+} // namespace
+
+TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
+{
+    GraphInHost g;
+    g.Show();
+    CGraph& graph = g.m_graph;
+    const HWND hWnd = g.Prv()->m_hWnd;
+    EXPECT_EQ(GRAPH_OK, graph.SetAutoScaleMode(1));
+    EXPECT_EQ(GRAPH_OK, graph.SetRadarPercent(0.0, 0.0));   // limits equal to the data's extent
+
+    GuardedFloats fX16(16), fY16(16), fX8(8), fY8(8);
+    // The owned copies of the doubles are large enough for the heap to give
+    // their pages back when they are freed: a reader still in them faults.
+    const long nDoubles = 1 << 18;
+    std::vector<double> adX(nDoubles), adY(nDoubles);
+    for (long i = 0; i < nDoubles; i++) {
+        adX[i] = -50.0 + i * 1e-3;
+        adY[i] = (double)(i % 100);
+    }
+    double adXLast[12], adYLast[12];
+    for (int i = 0; i < 16; i++) {
+        fX16[i] = (float)i;
+        fY16[i] = (float)(i * i);
+        if (i < 8) {
+            fX8[i] = (float)(100 + i);
+            fY8[i] = (float)-i;
+        }
+        if (i < 12) {
+            adXLast[i] = 1000.0 + i;
+            adYLast[i] = 5.0 * i;
+        }
+    }
+    ASSERT_EQ(GRAPH_OK, graph.AddPlotData("s", PLOT_YLEFT, fX16.m_pf, fY16.m_pf, 16, 0xFF0000, PS_SOLID, 0));
+    CPlotData* pData = FindSeries(graph, "s");
+    double dMin = 0, dMax = 0;
+    PVOID pFaultHandler = ::AddVectoredExceptionHandler(1, CountFault);
+
+    // An update caught half done, as UpdatePlotData leaves it between its
+    // stores: the arrays of 8 points with the count of 16 still standing. A
+    // paint that reads the series without the lock faults on the guard page;
+    // one that takes the lock waits and then scales to the 8 points.
+    {
+        std::atomic<bool> bHeld(false);
+        std::thread updater([&] {
+            CSingleLock lock(&g.Prv()->m_csPlotData, TRUE);
+            pData->m_pfXData = fX8.m_pf;
+            pData->m_pfYData = fY8.m_pf;
+            bHeld = true;
+            ::Sleep(300);
+            pData->m_lPoints = 8;
+        });
+        while (!bHeld)
+            ::Sleep(1);
+        const DWORD dwStart = ::GetTickCount();
+        ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        EXPECT_GE(::GetTickCount() - dwStart, 200u);
+        updater.join();
+        EXPECT_EQ(GRAPH_OK, graph.GetXAxisLimits(&dMin, &dMax));
+        EXPECT_EQ("100 107", Str("%g %g", dMin, dMax));
+    }
+
+    // The host thread swaps arrays of 16 and 8 floats and owned copies of
+    // doubles while the window paints, for at most 400 paints or a second;
+    // its last update is the doubles' last.
+    std::atomic<bool> bStop(false);
+    int nUpdates = 0, nRefused = 0;
+    std::thread host([&] {
+        for (; !bStop && nUpdates < 5000000; nUpdates++) {
+            int nResult;
+            switch (nUpdates % 4) {
+            case 0: nResult = graph.UpdatePlotData("s", fX16.m_pf, fY16.m_pf, 0, 16); break;
+            case 1: nResult = graph.UpdatePlotData("s", fX8.m_pf, fY8.m_pf, 0, 8); break;
+            default: nResult = graph.UpdatePlotData("s", adX.data(), adY.data(), 0, nDoubles); break;
+            }
+            nRefused += nResult != GRAPH_OK;
+            // The lock is not fair: without a pause a waiting paint could
+            // starve while this thread takes the lock again and again.
+            if (nUpdates % 4 == 3)
+                ::Sleep(1);
+        }
+        nRefused += graph.UpdatePlotData("s", adXLast, adYLast, 0, 12) != GRAPH_OK;
+        nUpdates++;
+    });
+    int nPaints = 0;
+    for (const DWORD dwStart = ::GetTickCount(); nPaints < 400 && ::GetTickCount() - dwStart < 1000; nPaints++)
+        ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    bStop = true;
+    host.join();
+    ::RemoveVectoredExceptionHandler(pFaultHandler);
+    printf("[ hostile  ] %d updates from the host thread, %d paints\n", nUpdates, nPaints);
+    EXPECT_EQ(0, g_nFaults.load());
+    EXPECT_EQ(0, nRefused);
+    EXPECT_GT(nUpdates, nPaints);
+
+    // The series holds the last update's data, and a paint scales to it.
+    ASSERT_EQ(pData, FindSeries(graph, "s"));
+    ASSERT_EQ(12, pData->m_lPoints);
+    EXPECT_TRUE(pData->m_bOwnXData && pData->m_bOwnYData);
+    EXPECT_EQ(0, pData->m_lStartIndex);
+    for (int i = 0; i < 12; i++) {
+        EXPECT_EQ((float)adXLast[i], pData->m_pfXData[i]);
+        EXPECT_EQ((float)adYLast[i], pData->m_pfYData[i]);
+    }
+    ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    EXPECT_EQ(GRAPH_OK, graph.GetXAxisLimits(&dMin, &dMax));
+    EXPECT_EQ("1000 1011", Str("%g %g", dMin, dMax));
+    EXPECT_EQ(GRAPH_OK, graph.GetYAxisLimits(&dMin, &dMax, 0));
+    EXPECT_EQ("0 55", Str("%g %g", dMin, dMax));
+}
+
+TEST(HostileData, FailedAllocationsOfTheDoubleOverloadsChangeNothing)
+{
+    GraphInHost g;   // with a window: the legend takes part
+    CGraph& graph = g.m_graph;
+    CGraphPrv* p = g.Prv();
+    // 4 MB for each float copy: one copy leaked shows in the committed memory.
+    const long nPoints = 1 << 20;
+    std::vector<double> adX(nPoints), adY(nPoints), adNew(nPoints, 7.0);
+    for (long i = 0; i < nPoints; i++) {
+        adX[i] = (double)i;
+        adY[i] = 2.0 * i;
+    }
+    ASSERT_EQ(GRAPH_OK, graph.AddPlotData("old", PLOT_YLEFT, adX.data(), adY.data(), nPoints, 0xFF, PS_SOLID, 0));
+    CPlotData* pOld = FindSeries(graph, "old");
+
+    // Each allocation of a call fails in turn, the first and the second copy
+    // among them, until the call has memory enough.
+    const char* apszCalls[] = { "UpdatePlotData", "AddPlotData" };
+    int anFailures[2] = { 0, 0 };
+    for (int nCall = 0; nCall < 2; nCall++) {
+        const float* pfX = pOld->m_pfXData;
+        const float* pfY = pOld->m_pfYData;
+        const long lPoints = pOld->m_lPoints;
+        const std::string strLast = Str("%.0f %.0f", pfX[lPoints - 1], pfY[lPoints - 1]);
+        const SIZE_T nBytesBefore = CommittedBytes();
+        for (int nAfter = 0; nAfter < 20; nAfter++) {
+            AfxSetAllocFailure(nAfter);
+            const int nResult = nCall == 0 ? graph.UpdatePlotData("old", adNew.data(), adNew.data(), 0, nPoints / 2)
+                                           : graph.AddPlotData("new", PLOT_YLEFT, adNew.data(), adNew.data(),
+                                                               nPoints / 2, 0xFF00, PS_SOLID, 0);
+            AfxSetAllocFailure(-1);
+            if (nResult == GRAPH_OK)
+                break;
+            anFailures[nCall]++;
+            const std::string strCase = Str("%s, allocation %d", apszCalls[nCall], nAfter + 1);
+            ASSERT_EQ(GRAPH_NOMEMORY, nResult) << strCase;
+            // The graph and the old series as they were, its data readable.
+            EXPECT_EQ(1, p->m_mapPlotData.GetCount()) << strCase;
+            EXPECT_EQ(1, p->m_legend.GetCount()) << strCase;
+            ASSERT_EQ(pOld, FindSeries(graph, "old")) << strCase;
+            ASSERT_TRUE(pOld->m_pfXData == pfX && pOld->m_pfYData == pfY) << strCase;
+            ASSERT_EQ(lPoints, pOld->m_lPoints) << strCase;
+            EXPECT_EQ(strLast, Str("%.0f %.0f", pfX[lPoints - 1], pfY[lPoints - 1])) << strCase;
+            EXPECT_LT(CommittedBytes(), nBytesBefore + 2 * 1024 * 1024) << strCase;
+        }
+    }
+    EXPECT_GE(anFailures[0], 2);   // the two copies
+    EXPECT_GE(anFailures[1], 4);   // the series, its two copies and its pixel array
+    // Both calls went through at last: new copies for the old series, a new series.
+    EXPECT_EQ(nPoints / 2, pOld->m_lPoints);
+    EXPECT_EQ(7.0f, pOld->m_pfYData[nPoints / 2 - 1]);
+    EXPECT_TRUE(FindSeries(graph, "new") != NULL);
+    EXPECT_EQ(2, p->m_legend.GetCount());
+}
