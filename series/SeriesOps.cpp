@@ -173,21 +173,33 @@ int CGraphPrv::UpdatePlotData(const CString& strName, double* pdX, double* pdY, 
 {
     if (pdX == NULL || pdY == NULL)
         return GRAPH_BADARG;
-    // The old copies are freed under the lock, when no paint can be reading them.
-    CSingleLock lock(&m_csPlotData, TRUE);
-    CPlotData* pData = FindPlotData(strName);
-    if (pData == NULL)
-        return GRAPH_NOSERIES;
-    // Without memory for the copies the series keeps its old data: the host
-    // may try again, and no message to the legend waits under the lock.
-    if (!pData->SetDoubleData(pdX, pdY, lPoints))
-        return GRAPH_NOMEMORY;
-    // The copies hold exactly the points converted: a first index other than
-    // 0 would make the readers run past their end, so it is not used here.
-    (void)lFirst;
-    pData->m_lStartIndex = 0;
-    OnSeriesDataReplaced(pData);
-    return GRAPH_OK;
+    CPlotData* pData;
+    {
+        // The old copies are freed under the lock, when no paint can be
+        // reading them.
+        CSingleLock lock(&m_csPlotData, TRUE);
+        pData = FindPlotData(strName);
+        if (pData == NULL)
+            return GRAPH_NOSERIES;
+        if (pData->SetDoubleData(pdX, pdY, lPoints)) {
+            // The copies hold exactly the points converted: a first index
+            // other than 0 would make the readers run past their end.
+            (void)lFirst;
+            pData->m_lStartIndex = 0;
+            OnSeriesDataReplaced(pData);
+            return GRAPH_OK;
+        }
+        // Without memory for the copies the series is lost: out of the map
+        // under the lock, so that no paint finds it any more.
+        m_mapPlotData.RemoveKey(strName);
+    }
+    // The legend is a window of the graph's thread, which may be waiting for
+    // the lock in a paint: it hears of the loss after the lock is given back.
+    OnSeriesRemoved(pData);
+    if (m_legend.m_hWnd != NULL)
+        m_legend.RemoveEntry(strName);
+    DestroyPlotData(pData);
+    return GRAPH_NOMEMORY;
 }
 
 int CGraphPrv::RemovePlotData(const CString& strName)

