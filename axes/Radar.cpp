@@ -135,17 +135,13 @@ int CGraphPrv::Radar(WORD wFlags)
         // A host thread may swap a series' arrays at any time: the scan
         // holds the series lock.
         CSingleLock lock(&m_csPlotData, TRUE);
-        POSITION pos = m_mapPlotData.GetStartPosition();
-        while (pos != NULL) {
-            CString strName;
-            CPlotData* pData = NULL;
-            m_mapPlotData.GetNextAssoc(pos, strName, pData);
+        ForEachSeries([&](CPlotData* pData) {
             if (!HasPoints(pData))
-                continue;
+                return;
             GetRadarValues(pData);
             x.Widen(pData->m_fXMin, pData->m_fXMax);
             y[AxesYIndex(pData->m_nYAxis)].Widen(pData->m_fYMin, pData->m_fYMax);
-        }
+        });
     }
 
     // An axis without a series keeps its limits.

@@ -145,13 +145,7 @@ void CGraphPrv::InitMemberVariables(CWnd* pParent)
 
     // Series and labels that arrived before creation (as from an archive).
     if (m_legend.m_hWnd != NULL) {
-        POSITION pos = m_mapPlotData.GetStartPosition();
-        while (pos != NULL) {
-            CString strName;
-            CPlotData* pData = NULL;
-            m_mapPlotData.GetNextAssoc(pos, strName, pData);
-            AddSeriesToLegend(pData);
-        }
+        ForEachSeries([this](CPlotData* pData) { AddSeriesToLegend(pData); });
     }
     PlaceFloatingLabels();
 }

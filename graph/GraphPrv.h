@@ -257,6 +257,18 @@ protected:
     // ---- series/ ------------------------------------------------------------
     int FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD crColor, int nLineStyle, int nAnnotate);
     CPlotData* FindPlotData(const CString& strName);
+    // Calls fn(pData) for every series, in the map's order. fn must not add
+    // or remove series.
+    template <class Fn> void ForEachSeries(Fn fn)
+    {
+        POSITION pos = m_mapPlotData.GetStartPosition();
+        while (pos != NULL) {
+            CString strName;
+            CPlotData* pData = NULL;
+            m_mapPlotData.GetNextAssoc(pos, strName, pData);
+            fn(pData);
+        }
+    }
     void AddSeriesToLegend(CPlotData* pData);
     void DestroyPlotData(CPlotData* pData);
 

@@ -105,11 +105,7 @@ void CGraphPrv::PlotPoints(CDC* pDC)
                                              m_rectPlot.bottom + 1);
     if (nClip != ERROR && nClip != NULLREGION) {
         bool bAnyArea = false;
-        POSITION pos = m_mapPlotData.GetStartPosition();
-        while (pos != NULL) {
-            CString strName;
-            CPlotData* pData = NULL;
-            m_mapPlotData.GetNextAssoc(pos, strName, pData);
+        ForEachSeries([&](CPlotData* pData) {
             if (!pData->m_listAreas.IsEmpty())
                 bAnyArea = true;
             if (pData->m_nLineStyle != LINESTYLE_NONE && pData->m_lPoints >= 1)
@@ -118,7 +114,7 @@ void CGraphPrv::PlotPoints(CDC* pDC)
                 AnnotatePlotData(pDC, pData);
             pData->DrawLabels(pDC, this);
             pData->DrawPointHighlights(pDC, this);
-        }
+        });
         m_bPointsStale = FALSE;
         if (bAnyArea)
             PlotAreas(pDC);
@@ -130,12 +126,8 @@ void CGraphPrv::OptimizePlotData()
 {
     CSingleLock lock(&m_csPlotData, TRUE);
     m_bPointsStale = FALSE;
-    POSITION pos = m_mapPlotData.GetStartPosition();
-    while (pos != NULL) {
-        CString strName;
-        CPlotData* pData = NULL;
-        m_mapPlotData.GetNextAssoc(pos, strName, pData);
+    ForEachSeries([this](CPlotData* pData) {
         if (pData->m_lPoints >= 1)
             OptimizePoints(pData);
-    }
+    });
 }

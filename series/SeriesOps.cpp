@@ -217,16 +217,12 @@ int CGraphPrv::RemovePlotData(const CString& strName)
 
 int CGraphPrv::RemoveAllPlotData()
 {
-    POSITION pos = m_mapPlotData.GetStartPosition();
-    while (pos != NULL) {
-        CString strName;
-        CPlotData* pData = NULL;
-        m_mapPlotData.GetNextAssoc(pos, strName, pData);
+    ForEachSeries([this](CPlotData* pData) {
         OnSeriesRemoved(pData);
         if (m_legend.m_hWnd != NULL)
-            m_legend.RemoveEntry(strName);
+            m_legend.RemoveEntry(pData->m_strName);
         DestroyPlotData(pData);
-    }
+    });
     m_mapPlotData.RemoveAll();
     return GRAPH_OK;
 }
