@@ -108,7 +108,6 @@ TEST(TicPixels, MinorOffsetsAt96Dpi)
         { 100, 4, { 20, 40, 60, 80 } },
         { 40, 1, { 20 } },
         { 145, 9, { 14, 29, 43, 58, 72, 87, 101, 116, 130 } },
-        { 200, 9, { 20, 40, 60, 80, 100, 120, 140, 160, 180 } },
     };
     for (const Case& c : cases) {
         p->m_rectPlot.SetRect(0, 0, 5 * c.nSpacing, 5 * c.nSpacing);
