@@ -158,7 +158,6 @@ TEST(Colors, CustomColorsBackgroundAndFont)
     EXPECT_EQ(Str("120 0000ff 120 Arial 700"),
               Str("%d %06lx %ld %s %ld", nSize, crText, out.lfHeight, out.lfFaceName, out.lfWeight));
     EXPECT_STREQ("Arial", graph.m_pGraphPrv->m_strFaceName);
-    EXPECT_EQ(1, graph.m_pGraphPrv->m_bFontItalic);
     LOGFONT made;
     graph.m_pGraphPrv->m_font.GetLogFont(&made);
     CClientDC dc(NULL);

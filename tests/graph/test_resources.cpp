@@ -7,12 +7,9 @@ TEST(Resources, ChineseStringsThroughTheChain)
 {
     ASSERT_EQ(936u, ::GetACP()) << "the tests run under the Chinese code page";
     struct { UINT nID; const wchar_t* pszText; } cases[] = {
-        { IDS_LOCK, L"\u9501\u5B9A(&K)" },                 // 锁定(&K)
         { IDS_UNLOCK, L"\u89E3\u9501(&K)" },               // 解锁(&K)
-        { IDS_LINE_NAME_FORMAT, L"\u7EBF %d" },            // 线 %d
         { IDS_CROSSHAIR_MENU, L"\u5341\u5B57\u6E38\u6807(&H)" },  // 十字游标(&H)
         { IDS_LABEL_TEXT, L"\u6587\u672C" },               // 文本
-        { IDS_FONT_FACE, L"\u5B8B\u4F53" },                // 宋体
         { IDS_GRAPH_PROPERTIES, L"\u56FE\u8C61\u5C5E\u6027" },   // 图象属性
         { IDS_LEGEND_PROPERTIES, L"\u56FE\u4F8B\u5C5E\u6027" },  // 图例属性
     };
