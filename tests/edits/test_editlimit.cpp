@@ -206,8 +206,8 @@ TEST(EditLimit, OrderBitsSwapACrossedPair)
         const char* pszText;
         const char* pszLimits;
     } cases[] = {
-        { 0x01, IDC_LIMIT_EDIT_X_MIN, "20", "x 20 10 | yl 0 20 | yr 0 30" },
-        { 0x01, IDC_LIMIT_EDIT_YLEFT_MAX, "-5", "x 0 10 | yl 0 -5 | yr 0 30" },
+        { GS_RESERVED1, IDC_LIMIT_EDIT_X_MIN, "20", "x 20 10 | yl 0 20 | yr 0 30" },
+        { GS_RESERVED1, IDC_LIMIT_EDIT_YLEFT_MAX, "-5", "x 0 10 | yl 0 -5 | yr 0 30" },
         { GS_XLIMITORDER, IDC_LIMIT_EDIT_X_MIN, "20", "x 10 20 | yl 0 20 | yr 0 30" },
         { GS_XLIMITORDER, IDC_LIMIT_EDIT_X_MAX, "-3", "x -3 0 | yl 0 20 | yr 0 30" },
         { GS_XLIMITORDER, IDC_LIMIT_EDIT_YLEFT_MIN, "25", "x 0 10 | yl 25 20 | yr 0 30" },
