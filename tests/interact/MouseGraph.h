@@ -52,6 +52,7 @@ public:
     {
         return ::SendMessageA(Hwnd(), nMessage, nFlags, MAKELPARAM(pt.x, pt.y));
     }
+    LRESULT Command(UINT nId) { return ::SendMessageA(Hwnd(), WM_COMMAND, nId, 0); }
     CPoint Screen(CPoint pt)
     {
         ::ClientToScreen(Hwnd(), &pt);
