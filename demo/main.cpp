@@ -1,14 +1,23 @@
 // graphdemo: a host program of ZPXGraph. It opens a top-level window with one
 // graph child showing several series on both Y axes (one of a million
-// points), reference lines, a grid and titles.
+// points), with marks and point labels, reference lines, a grid and titles.
+// The user zooms with the left button, scales back with a double click,
+// edits a limit by clicking it, and has the context menu on the right
+// button, where the host has put an entry of its own ("Reset view"). Every
+// notification the host hears is printed.
 //
 //   graphdemo.exe               the window, until the user closes it
-//   graphdemo.exe --headless    renders the same graph through CGraph::Plot
-//                               into a memory bitmap, writes it as a picture
-//                               file, prints where, and exits
+//   graphdemo.exe --headless    drives the same window with real messages
+//                               (a zoom, a double click, a limit typed into
+//                               its box, the menu's scaling entry), prints
+//                               the limits after each step, writes the
+//                               zoomed graph as a picture file, and exits
 //   --english                   looks for the English resource satellite
 #include "graph/Graph.h"
+#include "graph/GraphPrv.h"
+#include "render/AnnotationMark.h"
 #include <math.h>
+#include <stdarg.h>
 #include <stdio.h>
 #include <string.h>
 #include <vector>
@@ -17,6 +26,39 @@
 namespace {
 
 const int kGraphId = 100;
+const UINT kResetViewId = 40001;   // the host's own entry of the context menu
+
+// Prints what the host hears. Moves are only counted: there are many.
+class PrintingSink : public CGraphNotify
+{
+public:
+    virtual void OnGraphMouse(UINT, UINT nMessage, UINT, CPoint pt)
+    {
+        if (nMessage == WM_MOUSEMOVE)
+            m_nMoves++;
+        else
+            Print("mouse message 0x%04X at %ld,%ld (screen)", nMessage, pt.x, pt.y);
+    }
+    virtual void OnGraphEvent(UINT, int nCode) { Print("event %d", nCode); }
+    virtual void OnGraphPage(UINT, UINT nPage) { Print("property page %u", nPage); }
+    virtual void OnGraphCommand(UINT, UINT wParam, long) { Print("command %u", wParam); }
+    virtual void OnGraphContextMenu(UINT, CPoint pt) { Print("context menu at %ld,%ld", pt.x, pt.y); }
+
+    int m_nMoves = 0;
+
+private:
+    void Print(const char* pszFormat, ...)
+    {
+        char sz[256];
+        va_list args;
+        va_start(args, pszFormat);
+        _vsnprintf(sz, sizeof(sz) - 1, pszFormat, args);
+        va_end(args);
+        sz[sizeof(sz) - 1] = '\0';
+        printf("  heard: %s\n", sz);
+        fflush(stdout);
+    }
+};
 
 // The data lives as long as the graph: float series refer to these arrays.
 struct DemoData
@@ -50,6 +92,25 @@ void MakeData(DemoData& data)
     }
 }
 
+// The whole data in view: what the host's own menu entry does.
+void ResetView(CGraph& graph)
+{
+    graph.SetXAxisLimits(0.0, 10.0);
+    graph.SetYAxisLimits(-10.0, 10.0, 0);
+    graph.SetYAxisLimits(0.0, 250.0, 1);
+}
+
+void PrintLimits(CGraph& graph, const char* pszStep)
+{
+    double d[6];
+    graph.GetXAxisLimits(&d[0], &d[1]);
+    graph.GetYAxisLimits(&d[2], &d[3], 0);
+    graph.GetYAxisLimits(&d[4], &d[5], 1);
+    printf("%-34s X %.4g .. %.4g   left Y %.4g .. %.4g   right Y %.4g .. %.4g\n", pszStep, d[0], d[1], d[2], d[3],
+           d[4], d[5]);
+    fflush(stdout);
+}
+
 void SetUpGraph(CGraph& graph, DemoData& data)
 {
     graph.SetGraphTitle("ZPXGraph demo");
@@ -67,9 +128,14 @@ void SetUpGraph(CGraph& graph, DemoData& data)
     graph.AddPlotData("level", PLOT_YRIGHT, data.stepX.data(), data.stepY.data(),
                       (long)data.stepX.size(), RGB(200, 0, 0), PS_SOLID, 0);
 
-    graph.SetXAxisLimits(0.0, 10.0);
-    graph.SetYAxisLimits(-10.0, 10.0, 0);
-    graph.SetYAxisLimits(0.0, 250.0, 1);
+    // Marks on the staircase's corners and on the noise; labels that the
+    // graph remembers at the wave's first peaks.
+    graph.SetPlotDataAttributes("level", RGB(200, 0, 0), PS_SOLID, 1, MARK_DIAMOND, RGB(200, 0, 0));
+    graph.SetPlotDataAttributes("noise", RGB(0, 150, 0), PS_DOT, 1, MARK_PLUS, RGB(0, 110, 0));
+    graph.AddPlotDataLabel("damped wave", "peak 1", 0.26, 7.7, MARK_ARROWDOWN, "first peak");
+    graph.AddPlotDataLabel("damped wave", "trough 1", 0.78, -7.1, MARK_ARROWUP, "first trough");
+
+    ResetView(graph);
     // Fixed tics with minor tics: the grid lines of both Y axes then agree.
     graph.SetTicMarkType(0, 1, NULL);
     graph.SetGridAttributes(GRID_MINOR | GRID_BOTHWAYS, RGB(128, 128, 128), PS_DOT);
@@ -88,6 +154,15 @@ LRESULT CALLBACK FrameProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
             pGraph->Replot();
         }
         return 0;
+    case WM_COMMAND:
+        // The host's own menu entry comes here, as the graph sends it.
+        if (LOWORD(wParam) == kResetViewId && pGraph != NULL) {
+            printf("  host: resetting the view\n");
+            ResetView(*pGraph);
+            pGraph->Replot();
+            return 0;
+        }
+        break;
     case WM_DESTROY:
         ::PostQuitMessage(0);
         return 0;
@@ -109,15 +184,9 @@ HWND CreateFrame(int nWidth, int nHeight)
                              CW_USEDEFAULT, CW_USEDEFAULT, nWidth, nHeight, NULL, NULL, wc.hInstance, NULL);
 }
 
-// Renders the graph headless into a 32-bit bitmap and writes it to a file.
-int RenderToFile(CWnd* pParent, DemoData& data)
+// Writes what the graph shows, laid out as in its window, to a picture file.
+int WriteGraphPicture(CGraph& graph, int nWidth, int nHeight)
 {
-    const int nWidth = 1000, nHeight = 600;
-    CGraph graph;
-    CRect rect(0, 0, nWidth, nHeight);
-    graph.CreateGraph(pParent, NULL, rect, GS_NOWINDOW | GS_RIGHTAXIS, kGraphId, 63);
-    SetUpGraph(graph, data);
-
     BITMAPINFO bmi;
     memset(&bmi, 0, sizeof(bmi));
     bmi.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
@@ -130,7 +199,7 @@ int RenderToFile(CWnd* pParent, DemoData& data)
     CDC dc;
     dc.CreateCompatibleDC(NULL);
     HGDIOBJ hOld = dc.SelectObject(hBitmap);
-    dc.FillSolidRect(0, 0, nWidth, nHeight, RGB(240, 240, 240));
+    dc.FillSolidRect(0, 0, nWidth, nHeight, ::GetSysColor(COLOR_WINDOW));
     graph.SizeGraph(&dc, 0, 0, nWidth, nHeight, TRUE);
     int nResult = graph.Plot(&dc, FALSE);
     dc.SelectObject(hOld);
@@ -139,13 +208,110 @@ int RenderToFile(CWnd* pParent, DemoData& data)
     ::GetFullPathNameA("graphdemo.png", MAX_PATH, szPath, NULL);
     BOOL bWritten = WritePictureFile(hBitmap, szPath, sizeof(szPath));
     ::DeleteObject(hBitmap);
-    graph.RemoveAllPlotData();
     if (!bWritten) {
         printf("graphdemo: could not write the picture\n");
         return 1;
     }
     printf("graphdemo: Plot returned %d; picture written to %s\n", nResult, szPath);
     return 0;
+}
+
+// Chooses an entry of the popup menu that is up, by its mnemonic, from a
+// thread timer inside the menu's loop.
+char g_cMenuChoice = 0;
+
+void CALLBACK ChooseFromMenu(HWND, UINT, UINT_PTR nTimer, DWORD)
+{
+    HWND hPopup = ::FindWindowA("#32768", NULL);
+    if (hPopup == NULL || !::IsWindowVisible(hPopup))
+        return;
+    ::KillTimer(NULL, nTimer);
+    ::PostMessageA(hPopup, WM_CHAR, (WPARAM)g_cMenuChoice, 0);
+}
+
+void Pump()
+{
+    MSG msg;
+    while (::PeekMessageA(&msg, NULL, 0, 0, PM_REMOVE)) {
+        ::TranslateMessage(&msg);
+        ::DispatchMessageA(&msg);
+    }
+}
+
+// Drives the graph window as a user would, with real messages, and prints
+// the limits after each step.
+int DriveHeadless(CGraph& graph, PrintingSink& sink)
+{
+    HWND hGraph = graph.m_pGraphPrv->m_hWnd;
+    auto send = [hGraph](UINT nMessage, CPoint pt, UINT nFlags) {
+        ::SendMessageA(hGraph, nMessage, nFlags, MAKELPARAM(pt.x, pt.y));
+    };
+    auto zoom = [&](CPoint a, CPoint b) {
+        // The real pointer waits on the press, as a hand's would.
+        CPoint ptScreen = a;
+        ::ClientToScreen(hGraph, &ptScreen);
+        ::SetCursorPos(ptScreen.x, ptScreen.y);
+        send(WM_LBUTTONDOWN, a, MK_LBUTTON);
+        send(WM_MOUSEMOVE, CPoint((a.x + b.x) / 2, (a.y + b.y) / 2), MK_LBUTTON);
+        send(WM_MOUSEMOVE, b, MK_LBUTTON);
+        send(WM_LBUTTONUP, b, 0);
+        Pump();
+    };
+    CRect r;
+    graph.GetPlotRect(r);
+    auto at = [&r](double fx, double fy) {
+        return CPoint(r.left + (int)(fx * r.Width()), r.top + (int)(fy * r.Height()));
+    };
+    PrintLimits(graph, "start:");
+
+    printf("zoom: a box from 5 %% to 40 %% across, 20 %% to 80 %% down\n");
+    zoom(at(0.05, 0.2), at(0.4, 0.8));
+    PrintLimits(graph, "after the zoom:");
+
+    printf("double click in the plot: the whole data\n");
+    send(WM_LBUTTONDBLCLK, r.CenterPoint(), MK_LBUTTON);
+    Pump();
+    PrintLimits(graph, "after the double click:");
+
+    printf("click on the X maximum, type 6 and Return\n");
+    graph.Replot();
+    ::UpdateWindow(hGraph);
+    const CPoint ptLimit = graph.m_pGraphPrv->m_rectLimit[LIMIT_XMAX].CenterPoint();
+    send(WM_LBUTTONDOWN, ptLimit, MK_LBUTTON);
+    send(WM_LBUTTONUP, ptLimit, 0);
+    HWND hEdit = ::GetFocus();
+    ::SendMessageA(hEdit, WM_CHAR, '6', 1);
+    ::SendMessageA(hEdit, WM_CHAR, VK_RETURN, 1);
+    Pump();
+    PrintLimits(graph, "after the limit was typed:");
+    // The editing ends with the next press, which does nothing else.
+    send(WM_LBUTTONDOWN, r.CenterPoint(), MK_LBUTTON);
+    send(WM_LBUTTONUP, r.CenterPoint(), 0);
+
+    printf("right click: the context menu, its scaling entry chosen\n");
+    g_cMenuChoice = 'a';
+    ::SetTimer(NULL, 0, 50, ChooseFromMenu);
+    send(WM_RBUTTONDOWN, r.CenterPoint(), MK_RBUTTON);
+    send(WM_RBUTTONUP, r.CenterPoint(), 0);
+    Pump();
+    PrintLimits(graph, "after the menu's scaling:");
+
+    printf("the host's own entry, Reset view\n");
+    g_cMenuChoice = 'v';
+    ::SetTimer(NULL, 0, 50, ChooseFromMenu);
+    send(WM_RBUTTONDOWN, r.CenterPoint(), MK_RBUTTON);
+    send(WM_RBUTTONUP, r.CenterPoint(), 0);
+    Pump();
+    PrintLimits(graph, "after Reset view:");
+
+    printf("zoom on the first peaks, with their marks and labels\n");
+    zoom(at(0.01, 0.02), at(0.13, 0.97));
+    PrintLimits(graph, "zoomed:");
+    printf("(%d moves heard)\n", sink.m_nMoves);
+
+    RECT rcGraph;
+    ::GetClientRect(hGraph, &rcGraph);
+    return WriteGraphPicture(graph, rcGraph.right, rcGraph.bottom);
 }
 
 } // namespace
@@ -169,24 +335,32 @@ int main(int argc, char** argv)
     frame.Attach(hFrame);
 
     int nExit = 0;
-    if (bHeadless) {
-        nExit = RenderToFile(&frame, data);
-    } else {
+    {
         CGraph graph;
+        PrintingSink sink;
         RECT rcClient;
         ::GetClientRect(hFrame, &rcClient);
         CRect rect(8, 8, rcClient.right - 8, rcClient.bottom - 8);
         graph.CreateGraph(&frame, NULL, rect, GS_RIGHTAXIS, kGraphId, 63);
         SetUpGraph(graph, data);
+        graph.EnableNotifications(&sink, 0x1FFF);
+        CString strReset("Reset &view");
+        graph.AddMenuItem(strReset, kResetViewId, 0, &frame);
         ::SetWindowLongPtrA(hFrame, GWLP_USERDATA, (LONG_PTR)&graph);
         graph.ShowGraph();
         ::ShowWindow(hFrame, SW_SHOW);
-        MSG msg;
-        while (::GetMessageA(&msg, NULL, 0, 0) > 0) {
-            ::TranslateMessage(&msg);
-            ::DispatchMessageA(&msg);
+        ::UpdateWindow(hFrame);
+        if (bHeadless) {
+            nExit = DriveHeadless(graph, sink);
+        } else {
+            MSG msg;
+            while (::GetMessageA(&msg, NULL, 0, 0) > 0) {
+                ::TranslateMessage(&msg);
+                ::DispatchMessageA(&msg);
+            }
         }
         ::SetWindowLongPtrA(hFrame, GWLP_USERDATA, 0);
+        graph.RemoveAllPlotData();
     }
     frame.Detach();
     if (::IsWindow(hFrame))
