@@ -10,6 +10,15 @@ TEST(Satellite, EnglishLocaleSwitchesTheTexts)
     CString str;
     ASSERT_TRUE(str.LoadString(IDS_LOCK));
     EXPECT_STREQ(AnsiOf(L"\u9501\u5B9A(&K)"), str);
+    // Menus come through the same chain; the first entry of the graph's menu.
+    auto firstEntry = [] {
+        CMenu menu;
+        CString strEntry;
+        if (menu.LoadMenu(IDR_GRAPH_MENU) && menu.GetSubMenu(0) != NULL)
+            menu.GetSubMenu(0)->GetMenuString(0, strEntry, MF_BYPOSITION);
+        return strEntry;
+    };
+    EXPECT_STREQ(AnsiOf(L"\u590D\u5236(&O)"), firstEntry());
 
     {
         ThreadLocale locale(lcidEnglish);
@@ -20,6 +29,7 @@ TEST(Satellite, EnglishLocaleSwitchesTheTexts)
     EXPECT_STREQ("&Lock", str);
     ASSERT_TRUE(str.LoadString(IDS_LINE_NAME_FORMAT));
     EXPECT_STREQ("Line %d", str);
+    EXPECT_STREQ("C&opy", firstEntry());
 
     // A graph made now takes its face name through the chain...
     CGraph graph;
