@@ -66,9 +66,9 @@ void CGraphPrv::OnMouseMove(UINT nFlags, CPoint point)
             // The button went up elsewhere: the drag is over, limits unchanged.
             m_dwState &= ~GST_ZOOMING;
         }
-    } else if ((m_dwState & GST_CROSSHAIR) && !(m_dwState & GST_CROSSHAIR_LOCKED)) {
-        m_crossHair.Move(point.x, point.y);
     }
+    if (!(m_dwState & GST_ZOOMING) && (m_dwState & GST_CROSSHAIR) && !(m_dwState & GST_CROSSHAIR_LOCKED))
+        m_crossHair.Move(point.x, point.y);
 
     // A shown cross hair, locked or not, keeps the marker line still.
     if (!(m_dwState & (GST_CROSSHAIR | GST_ZOOMING)))
