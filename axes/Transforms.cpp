@@ -135,8 +135,12 @@ double CGraphPrv::PixelToDataYRpt(int nY, int nAxis)
 
 void CGraphPrv::XformPlotData(CPlotData* pData, POINT* pPoints)
 {
+    // pPoints holds m_lPoints entries: the caller holds the lock from reading
+    // the count to here, as a host thread may change it.
     ASSERT(pData != NULL && pPoints != NULL);
     CSingleLock lock(&m_csPlotData, TRUE);   // a host thread may swap the arrays
+    if (pData->m_pfXData == NULL || pData->m_pfYData == NULL)
+        return;
     double dXScale, dXOffset, dYScale, dYOffset;
     HorzXform(&dXScale, &dXOffset);
     dXOffset += AXES_ROUNDING;

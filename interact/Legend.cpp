@@ -75,8 +75,11 @@ BOOL CLegend::RemoveEntry(CString strName)
     int nIndex = FindEntry(strName);
     if (nIndex < 0)
         return FALSE;
-    delete (CLegendData*)GetItemDataPtr(nIndex);
+    // The entry leaves the list before its look is freed: the list may be
+    // drawing it on its own thread.
+    CLegendData* pLook = (CLegendData*)GetItemDataPtr(nIndex);
     DeleteString((UINT)nIndex);
+    delete pLook;
     return TRUE;
 }
 

@@ -115,7 +115,7 @@ int CGraphPrv::SetGraphColorsMode(int nMode)
 
 int CGraphPrv::SetGraphColors(CLineColor* pColors, long lCount)
 {
-    if (lCount < 1)
+    if (lCount < 1 || pColors == NULL)
         return GRAPH_BADARG;
     m_pGraphColors = pColors;
     m_nGraphColors = (int)lCount;
@@ -171,6 +171,9 @@ int CGraphPrv::GetStopIncrementColor()
 
 int CGraphPrv::SetCustomColors(DWORD* pColors)
 {
+    // No array is no custom colours: the ones in force stay.
+    if (pColors == NULL)
+        return GRAPH_BADARG;
     g_pCustomColors = (COLORREF*)pColors;
     return GRAPH_OK;
 }

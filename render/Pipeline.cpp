@@ -48,10 +48,8 @@ int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
         return GRAPH_BADARG;
     if (m_dwStyle & GS_NOPLOT)
         return GRAPH_NOTAVAILABLE;
-    // Scaled to the data, the picture holds the series lock from the scan to
-    // the last series drawn: a host thread's update then cannot slip in
-    // between, and the limits fit the data that is drawn.
-    CSingleLock lockScaled(&m_csPlotData, m_nAutoScaleMode != 0);
+    // The scan and the series loop each hold the series lock; what is drawn
+    // between them (a derived class's PutLabels among it) holds none.
     if (m_nAutoScaleMode)
         Radar(RADAR_X | RADAR_YLEFT | RADAR_YRIGHT);   // always all three axes
 

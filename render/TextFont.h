@@ -21,13 +21,14 @@ public:
     CGraphTextFont(CDC* pDC, CGraphPrv* pGraph) : m_select(pDC, Choose(pDC, pGraph)) {}
 
 private:
-    CGdiObject* Choose(CDC* pDC, CGraphPrv* pGraph)
+    HGDIOBJ Choose(CDC* pDC, CGraphPrv* pGraph)
     {
-        ASSERT(pGraph->m_font.m_hObject != NULL);   // made by the constructor, remade by every font change
-        if (!IsPrinterOrPlotter(pDC))
-            return &pGraph->m_font;
-        pGraph->CreateDeviceFont(m_fontDevice, pDC, 0);
-        return &m_fontDevice;
+        // The host's font as it is, turned or not; a font the system refused
+        // leaves the system font.
+        if (IsPrinterOrPlotter(pDC))
+            pGraph->CreateDeviceFont(m_fontDevice, pDC, pGraph->m_logFont.lfEscapement);
+        CFont& font = m_fontDevice.m_hObject != NULL ? m_fontDevice : pGraph->m_font;
+        return font.m_hObject != NULL ? font.m_hObject : ::GetStockObject(SYSTEM_FONT);
     }
 
     CGraphTextFont(const CGraphTextFont&) = delete;

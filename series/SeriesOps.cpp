@@ -120,6 +120,9 @@ int CGraphPrv::FillPlotData(CPlotData* pData, DWORD dwAxis, long lPoints, DWORD 
 
     GetRadarValues(pData);
 
+    // The map changes under the lock: a host thread's update looks series up
+    // in it at any time.
+    CSingleLock lock(&m_csPlotData, TRUE);
     BOOL bInMap = FALSE;
     try {
         delete[] pData->m_pPointArray;
@@ -189,21 +192,22 @@ int CGraphPrv::UpdatePlotData(const CString& strName, double* pdX, double* pdY, 
             OnSeriesDataReplaced(pData);
             return GRAPH_OK;
         }
-        // Without memory for the copies the series is lost: out of the map
-        // under the lock, so that no paint finds it any more.
+        // Without memory for the copies the series is lost, under the lock,
+        // so that no paint finds it any more.
         m_mapPlotData.RemoveKey(strName);
+        OnSeriesRemoved(pData);
+        DestroyPlotData(pData);
     }
     // The legend is a window of the graph's thread, which may be waiting for
     // the lock in a paint: it hears of the loss after the lock is given back.
-    OnSeriesRemoved(pData);
     if (m_legend.m_hWnd != NULL)
         m_legend.RemoveEntry(strName);
-    DestroyPlotData(pData);
     return GRAPH_NOMEMORY;
 }
 
 int CGraphPrv::RemovePlotData(const CString& strName)
 {
+    CSingleLock lock(&m_csPlotData, TRUE);
     CPlotData* pData = FindPlotData(strName);
     if (pData == NULL)
         return GRAPH_NOSERIES;
@@ -217,6 +221,7 @@ int CGraphPrv::RemovePlotData(const CString& strName)
 
 int CGraphPrv::RemoveAllPlotData()
 {
+    CSingleLock lock(&m_csPlotData, TRUE);
     ForEachSeries([this](CPlotData* pData) {
         OnSeriesRemoved(pData);
         if (m_legend.m_hWnd != NULL)

@@ -57,6 +57,7 @@ TEST(Colors, ModesAndTheirRefusals)
     CLineColor table[1];
     FillEntry(table[0], "x", 1, 1, 1, 1);
     EXPECT_EQ(GRAPH_BADARG, graph.SetGraphColors(table, 0));
+    EXPECT_EQ(GRAPH_BADARG, graph.SetGraphColors(NULL, 3));
     EXPECT_TRUE(graph.m_pGraphPrv->m_pGraphColors != table);
     EXPECT_EQ(1, graph.SetGraphColors(table, 1));
     EXPECT_EQ(table, graph.m_pGraphPrv->m_pGraphColors);
@@ -128,6 +129,8 @@ TEST(Colors, CustomColorsBackgroundAndFont)
 {
     CGraph graph, other;
     DWORD adwOut[16] = { 0 };
+    EXPECT_EQ(GRAPH_NOCUSTOMCOLORS, graph.GetCustomColors(adwOut));
+    EXPECT_EQ(GRAPH_BADARG, graph.SetCustomColors(NULL));   // no array: none in force
     EXPECT_EQ(GRAPH_NOCUSTOMCOLORS, graph.GetCustomColors(adwOut));
     DWORD adwHost[16];
     for (int i = 0; i < 16; i++)
