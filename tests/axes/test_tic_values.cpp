@@ -80,6 +80,24 @@ TEST(TicValues, ExactEndsAndUndividableSpans)
     EXPECT_EQ(1.7e308, table[nLast]);
 }
 
+TEST(TicValues, LimitSettersFillTheTables)
+{
+    GraphInHost g;
+    CGraphPrv* p = g.Prv();
+    ASSERT_EQ(1, g.m_graph.SetXAxisLimits(-3.0, 7.0));
+    EXPECT_EQ(6, p->m_nXTicCount);
+    EXPECT_DOUBLE_EQ(5.1e-7, p->m_dXTicValue[2]);
+    EXPECT_EQ(7.0, p->m_dXTicValue[6]);
+    // A reversed pair: index 0 goes with the minimum field, here 100.
+    ASSERT_EQ(1, g.m_graph.SetYAxisLimits(100.0, 0.0, 0));
+    EXPECT_EQ(5, p->m_nYTicCount[0]);
+    EXPECT_EQ(100.0, p->m_dYTicValue[0][0]);
+    EXPECT_DOUBLE_EQ(80.00000051, p->m_dYTicValue[0][1]);
+    // The right axis gets its own values.
+    ASSERT_EQ(1, g.m_graph.SetYAxisLimits(0.0, 260.0, 1));
+    EXPECT_DOUBLE_EQ(200.00000051, p->m_dYTicValue[1][2]);
+}
+
 TEST(TicValues, FixedModeAndBack)
 {
     GraphInHost g;
