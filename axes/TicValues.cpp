@@ -10,10 +10,6 @@
 
 namespace {
 
-// The mantissa of a floating table is rounded to three decimals through its
-// printed text, in this one buffer of the process (the tic code belongs to
-// the window's thread, as the limit operations do).
-char g_szTicMantissa[64];
 
 // A fixed table: the limits at index 0 and n, the parts between them.
 void FillFixedTable(double dFirst, double dSecond, int nCount, double* pdTable)
@@ -72,9 +68,10 @@ int CalcFloatingTics(double dFirst, double dSecond, double* pdTable)
     }
 
     // Three decimals, through the printed text.
-    _snprintf(g_szTicMantissa, sizeof(g_szTicMantissa) - 1, "%5.3f", dMant);
-    g_szTicMantissa[sizeof(g_szTicMantissa) - 1] = '\0';
-    const double dNum = atof(g_szTicMantissa);
+    char szMantissa[64];
+    _snprintf(szMantissa, sizeof(szMantissa) - 1, "%5.3f", dMant);
+    szMantissa[sizeof(szMantissa) - 1] = '\0';
+    const double dNum = atof(szMantissa);
 
     // The step: two and a half to five steps across the span.
     double dFraction;

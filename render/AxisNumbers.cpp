@@ -2,14 +2,8 @@
 #include "render/AxisNumbers.h"
 #include "graph/GraphDefs.h"
 #include <math.h>
-#include <mbstring.h>
 
 namespace {
-
-BOOL SameText(const CString& str1, const CString& str2)
-{
-    return _mbscmp((const unsigned char*)(LPCSTR)str1, (const unsigned char*)(LPCSTR)str2) == 0;
-}
 
 // The tests a middle number passes before its place is looked at: its text
 // repeats neither the number last drawn nor the end number still to come,
@@ -19,7 +13,7 @@ BOOL SameText(const CString& str1, const CString& str2)
 BOOL KeepsItsText(const AxisTicNumber& number, double dOwn, double dNext, const CString& strLast,
                   const CString& strEnd)
 {
-    if (SameText(number.strText, strLast) || SameText(number.strText, strEnd))
+    if (number.strText == strLast || number.strText == strEnd)
         return FALSE;
     return fabs((double)number.fRead - dOwn) < fabs((double)number.fRead - dNext);
 }
@@ -79,7 +73,7 @@ BOOL AFXAPI FixedXMiddleNumberShown(int nLastLength, int nCharW, int nPlotWidth)
 BOOL AFXAPI FixedYMiddleNumberShown(BOOL bLeftAxis, const CString& strText, const CString& strMax,
                                     const CString& strMin)
 {
-    return !bLeftAxis || (!SameText(strText, strMax) && !SameText(strText, strMin));
+    return !bLeftAxis || (strText != strMax && strText != strMin);
 }
 
 UINT AFXAPI ChooseXTicExtensions(DWORD dwGridType, int nMinorTics, int nCount, UINT nNumbers)
