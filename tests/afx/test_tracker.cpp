@@ -1,0 +1,46 @@
+// CRectTracker around a selected item, in the style the graph gives it (a
+// hatched border with resize handles outside): what a point hits, what it
+// draws, and the cursor only for the client area.
+#include "Surface.h"
+#include "afx/afxext.h"
+
+TEST(RectTracker, HitsAndDrawingOfAHatchedTrackerWithHandlesOutside)
+{
+    const CRectTracker tracker(CRect(50, 50, 150, 100), CRectTracker::hatchedBorder | CRectTracker::resizeOutside);
+    // Handles of 4 pixels stand outside the item, the border 3 pixels wide.
+    CRect rectTrue;
+    tracker.GetTrueRect(&rectTrue);
+    EXPECT_EQ(CRect(47, 47, 153, 103), rectTrue);
+    const struct
+    {
+        CPoint pt;
+        int nHit;
+    } cases[] = {
+        { CPoint(100, 75), CRectTracker::hitMiddle },         // the item
+        { CPoint(70, 48), CRectTracker::hitMiddle },          // the border between handles
+        { CPoint(48, 48), CRectTracker::hitTopLeft },
+        { CPoint(151, 101), CRectTracker::hitBottomRight },
+        { CPoint(100, 48), CRectTracker::hitTop },            // sides long enough get a handle
+        { CPoint(151, 75), CRectTracker::hitRight },
+        { CPoint(46, 75), CRectTracker::hitNothing },
+        { CPoint(200, 200), CRectTracker::hitNothing },
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.nHit, tracker.HitTest(c.pt)) << c.pt.x << "," << c.pt.y;
+
+    // The border is hatched, the handles are solid, the item is untouched,
+    // and the context keeps its objects.
+    Dib dib(200, 150, WHITE);
+    HGDIOBJ hBrush = ::GetCurrentObject(dib.DC()->m_hDC, OBJ_BRUSH);
+    tracker.Draw(dib.DC());
+    EXPECT_EQ(hBrush, ::GetCurrentObject(dib.DC()->m_hDC, OBJ_BRUSH));
+    const int nHatch = dib.Count(60, 47, 90, 50, BLACK);
+    EXPECT_GT(nHatch, 0);
+    EXPECT_LT(nHatch, 30 * 3);
+    EXPECT_EQ(16, dib.Count(47, 47, 51, 51, BLACK));
+    EXPECT_EQ(100 * 50, dib.Count(50, 50, 150, 100, WHITE));
+
+    // The cursor is the tracker's only over the client area.
+    TestHost host;
+    EXPECT_FALSE(tracker.SetCursor(host.Wnd(), HTCAPTION));
+}
