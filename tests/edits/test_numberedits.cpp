@@ -8,57 +8,39 @@
 
 namespace {
 
-// A plain parent window that records the WM_COMMAND messages of its
-// children and answers them with m_lAnswer.
-class CommandRecorder
+// The commands other than change notifications that reach the parent of
+// the edits, as "code id hwnd", and what the parent answers.
+std::vector<std::string> g_commands;
+LRESULT g_lAnswer = 0;
+
+LRESULT CALLBACK ParentProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
+{
+    if (nMsg != WM_COMMAND || HIWORD(wParam) == EN_CHANGE || HIWORD(wParam) == EN_UPDATE)
+        return ::DefWindowProcA(hWnd, nMsg, wParam, lParam);
+    g_commands.push_back(Str("%x %u %p", HIWORD(wParam), LOWORD(wParam), (void*)lParam));
+    return g_lAnswer;
+}
+
+// A plain top-level window for the parent.
+class Parent
 {
 public:
-    CommandRecorder()
+    Parent()
     {
-        WNDCLASSA wc;
-        memset(&wc, 0, sizeof(wc));
-        wc.lpfnWndProc = Proc;
+        WNDCLASSA wc = {};
+        wc.lpfnWndProc = ParentProc;
         wc.hInstance = ::GetModuleHandleA(NULL);
-        wc.lpszClassName = "ZPXTestCommandRecorder";
+        wc.lpszClassName = "ZPXTestParent";
         ::RegisterClassA(&wc);
         m_hWnd = ::CreateWindowExA(0, wc.lpszClassName, "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, NULL,
                                    NULL, wc.hInstance, NULL);
-        ::SetWindowLongPtrA(m_hWnd, GWLP_USERDATA, (LONG_PTR)this);
+        g_commands.clear();
+        g_lAnswer = 0;
     }
-    ~CommandRecorder() { ::DestroyWindow(m_hWnd); }
-
+    ~Parent() { ::DestroyWindow(m_hWnd); }
     CWnd* Wnd() { return CWnd::FromHandle(m_hWnd); }
-    // FEN_BADINPUT commands, each as "id hwnd".
-    std::vector<std::string> BadInput() const
-    {
-        std::vector<std::string> v;
-        for (const MSG& m : m_commands)
-            if (HIWORD(m.wParam) == FEN_BADINPUT)
-                v.push_back(Str("%u %p", LOWORD(m.wParam), (void*)m.lParam));
-        return v;
-    }
-    // Commands other than the edit's own change notifications.
-    int Others() const
-    {
-        int n = 0;
-        for (const MSG& m : m_commands)
-            n += HIWORD(m.wParam) != EN_CHANGE && HIWORD(m.wParam) != EN_UPDATE;
-        return n;
-    }
 
     HWND m_hWnd;
-    LRESULT m_lAnswer = 0;
-    std::vector<MSG> m_commands;
-
-private:
-    static LRESULT CALLBACK Proc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
-    {
-        CommandRecorder* pThis = (CommandRecorder*)::GetWindowLongPtrA(hWnd, GWLP_USERDATA);
-        if (nMsg != WM_COMMAND || pThis == NULL)
-            return ::DefWindowProcA(hWnd, nMsg, wParam, lParam);
-        pThis->m_commands.push_back(MSG{ hWnd, nMsg, wParam, lParam, 0, {} });
-        return pThis->m_lAnswer;
-    }
 };
 
 const CRect rectEdit(10, 10, 200, 34);
@@ -95,7 +77,7 @@ TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
 {
     // Locale 0 is the user's (zh_CN, with a point), not the thread's.
     ThreadLocale locale(lcidGerman);
-    CommandRecorder parent;
+    Parent parent;
     CFloatEdit edit(0);
     EXPECT_STREQ("0123456789.-", edit.m_strValid);
     EXPECT_EQ(7, edit.m_nPrecision);
@@ -103,32 +85,32 @@ TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
     // Characters, not the number: signs and points anywhere are taken.
     Type(edit.m_hWnd, "-1.5.-2");
     EXPECT_EQ("-1.5.-2", TextOf(edit.m_hWnd));
-    EXPECT_TRUE(parent.BadInput().empty());
+    EXPECT_TRUE(g_commands.empty());
     // Letters, the exponent, blanks and thousands separators are refused,
     // each with one notification that names the control.
     Type(edit.m_hWnd, "e ,x");
     EXPECT_EQ("-1.5.-2", TextOf(edit.m_hWnd));
-    EXPECT_EQ(std::vector<std::string>(4, Str("77 %p", (void*)edit.m_hWnd)), parent.BadInput());
+    EXPECT_EQ(std::vector<std::string>(4, Str("%x 77 %p", FEN_BADINPUT, (void*)edit.m_hWnd)), g_commands);
     // Control characters keep their editing role.
     Type(edit.m_hWnd, "\b\b");
     EXPECT_EQ("-1.5.", TextOf(edit.m_hWnd));
     // A parent that answers -1 takes the refusal over (no beep); the
     // character is refused all the same.
-    parent.m_lAnswer = -1;
+    g_lAnswer = -1;
     Type(edit.m_hWnd, "y");
     EXPECT_EQ("-1.5.", TextOf(edit.m_hWnd));
-    EXPECT_EQ(5u, parent.BadInput().size());
+    EXPECT_EQ(5u, g_commands.size());
 }
 
 TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
 {
-    CommandRecorder parent;
+    Parent parent;
     CFloatEdit edit(lcidGerman);
     EXPECT_STREQ("0123456789,-", edit.m_strValid);
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 78));
     Type(edit.m_hWnd, "1,5.");
     EXPECT_EQ("1,5", TextOf(edit.m_hWnd));
-    EXPECT_EQ(1u, parent.BadInput().size());
+    EXPECT_EQ(1u, g_commands.size());
     // SetValue: seven significant digits (or the precision) in the runtime's notation.
     edit.SetValue(1.0 / 3.0);
     EXPECT_EQ("0.3333333", TextOf(edit.m_hWnd));
@@ -139,7 +121,7 @@ TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
 
 TEST(IntlEdit, ShowsAndReadsTheLocalesNotation)
 {
-    CommandRecorder parent;
+    Parent parent;
     CIntlEdit edit(lcidGerman);
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 81));
     edit.SetValue(-1.5);
@@ -164,7 +146,7 @@ TEST(IntlEdit, ShowsAndReadsTheLocalesNotation)
 
 TEST(IntlEdit, TakesOnlyKeystrokesOfANumber)
 {
-    CommandRecorder parent;
+    Parent parent;
     CIntlEdit edit(lcidGerman);
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 82));
     Type(edit.m_hWnd, "-1,5e+2.x \b\b");
@@ -177,5 +159,5 @@ TEST(IntlEdit, TakesOnlyKeystrokesOfANumber)
         EXPECT_EQ("-1,5e3", TextOf(edit.m_hWnd));
     }
     // Nothing goes to the parent: the control beeps and says nothing.
-    EXPECT_EQ(0, parent.Others());
+    EXPECT_TRUE(g_commands.empty());
 }
