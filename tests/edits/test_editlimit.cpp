@@ -55,19 +55,17 @@ public:
 
 const CRect rectBox(100, 250, 150, 270);
 
-// Opens an editor the way a click on a limit does: a child of the graph
-// with the style of the limit boxes, the graph's font, the focus, the text
-// selected, at most 10 characters typed.
+// Opens an editor the way a click on a limit does: a visible child of the
+// graph with the style of the limit boxes, the graph's font, the focus, the
+// text selected.
 HWND OpenEditor(WindowGraph& g, UINT nID, const char* pszText = "", const CRect& rect = rectBox)
 {
     CEditLimit* pEdit = new CountedEditLimit(g.Prv());
     EXPECT_TRUE(pEdit->Create(0x50800081, rect, g.Prv(), nID));
     pEdit->SetFont(&g.Prv()->m_font, TRUE);
-    pEdit->ShowWindow(SW_SHOW);
     pEdit->SetFocus();
     pEdit->ReplaceSel(pszText);
     pEdit->SetSel(0, -1);
-    pEdit->LimitText(10);
     return pEdit->m_hWnd;
 }
 
@@ -187,22 +185,18 @@ TEST(EditLimit, OrderBitsSwapACrossedPair)
 
 TEST(EditLimit, BoxGrowsWithItsTextByItsId)
 {
+    // At every keystroke the box takes the width of its text and two more
+    // characters (average width of its own context): both ways from the
+    // centre (mode 0), to the left (1), or not at all (2); never narrower
+    // than it was made.
     WindowGraph g;
-    // Both ways from the centre, to the left, or not at all.
-    const struct
-    {
-        UINT nID;
-        int nMode;
-    } growth[] = { { IDC_LIMIT_EDIT_X_MIN, 0 }, { IDC_LIMIT_EDIT_YLEFT_MIN, 1 }, { IDC_LIMIT_EDIT_YRIGHT_MAX, 2 } };
+    const UINT anID[3] = { IDC_LIMIT_EDIT_X_MIN, IDC_LIMIT_EDIT_YLEFT_MIN, IDC_LIMIT_EDIT_YRIGHT_MAX };
     const CRect rectStart(150, 100, 180, 120);
-    for (const auto& c : growth) {
-        HWND hEdit = OpenEditor(g, c.nID, "", rectStart);
+    for (int nMode = 0; nMode < 3; nMode++) {
+        HWND hEdit = OpenEditor(g, anID[nMode], "", rectStart);
         ASSERT_EQ(rectStart, ChildRect(g, hEdit));
-        // The average width of the box's own context.
-        TEXTMETRICA tm;
-        HDC hDC = ::GetDC(hEdit);
-        ::GetTextMetricsA(hDC, &tm);
-        ::ReleaseDC(hEdit, hDC);
+        TEXTMETRIC tm;
+        CClientDC(CWnd::FromHandle(hEdit)).GetTextMetrics(&tm);
         CRect rectExpected = rectStart;
         int nLength = 0;
         for (const char* pKey = "123456789\b\b\b\b\b\b\b\b"; *pKey != '\0'; ++pKey) {
@@ -210,10 +204,10 @@ TEST(EditLimit, BoxGrowsWithItsTextByItsId)
             nLength += *pKey == '\b' ? -1 : 1;
             const int d = rectExpected.Width() - (nLength + 2) * tm.tmAveCharWidth;
             CRect rect = rectExpected;
-            rect.left += c.nMode == 0 ? d / 2 : c.nMode == 1 ? d : 0;
-            rect.right -= c.nMode == 0 ? d / 2 : 0;
+            rect.left += nMode == 0 ? d / 2 : nMode == 1 ? d : 0;
+            rect.right -= nMode == 0 ? d / 2 : 0;
             rectExpected = rect.Width() < rectStart.Width() ? rectStart : rect;
-            ASSERT_EQ(rectExpected, ChildRect(g, hEdit)) << c.nID << " after " << nLength;
+            ASSERT_EQ(rectExpected, ChildRect(g, hEdit)) << nMode << " after " << nLength;
         }
         EXPECT_EQ(rectStart, ChildRect(g, hEdit));   // it grew, and came back
         ::SendMessageA(hEdit, WM_CHAR, VK_ESCAPE, 1);

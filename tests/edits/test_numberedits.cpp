@@ -49,16 +49,11 @@ const CRect rectEdit(10, 10, 200, 34);
 
 TEST(IntlString, LocaleZeroIsTheUsersDefaultWhateverTheThreadsLocale)
 {
-    char szDecimal[8], szThousand[8];
-    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, szDecimal, sizeof(szDecimal)), 0);
-    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, szThousand, sizeof(szThousand)), 0);
-    ASSERT_STREQ(".", szDecimal);   // the tests run under zh_CN
+    // The tests run under zh_CN: a point and a comma, where German has a
+    // comma and a point.
     ThreadLocale locale(lcidGerman);
     CIntlString intl;
-    EXPECT_EQ(0u, intl.m_lcid);
-    EXPECT_STREQ(szDecimal, intl.m_szDecimal);
-    EXPECT_STREQ(szThousand, intl.m_szThousand);
-    EXPECT_STREQ("-", intl.m_szNegative);
+    EXPECT_EQ("0 . , -", Str("%lu %s %s %s", intl.m_lcid, intl.m_szDecimal, intl.m_szThousand, intl.m_szNegative));
     // A point locale leaves the text alone.
     CString str = "-1.5e+003";
     intl.LocalizeDecimal(str);
