@@ -8,39 +8,22 @@
 
 namespace {
 
-// The commands other than change notifications that reach the parent of
-// the edits, as "code id hwnd", and what the parent answers.
-std::vector<std::string> g_commands;
-LRESULT g_lAnswer = 0;
-
-LRESULT CALLBACK ParentProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
-{
-    if (nMsg != WM_COMMAND || HIWORD(wParam) == EN_CHANGE || HIWORD(wParam) == EN_UPDATE)
-        return ::DefWindowProcA(hWnd, nMsg, wParam, lParam);
-    g_commands.push_back(Str("%x %u %p", HIWORD(wParam), LOWORD(wParam), (void*)lParam));
-    return g_lAnswer;
-}
-
-// A plain top-level window for the parent.
-class Parent
+// A top-level parent for the edits that records the commands other than
+// change notifications, as "code id hwnd", and answers them with m_lAnswer.
+class Parent : public CWnd
 {
 public:
-    Parent()
+    Parent() { CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, NULL, NULL); }
+    LRESULT WindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam) override
     {
-        WNDCLASSA wc = {};
-        wc.lpfnWndProc = ParentProc;
-        wc.hInstance = ::GetModuleHandleA(NULL);
-        wc.lpszClassName = "ZPXTestParent";
-        ::RegisterClassA(&wc);
-        m_hWnd = ::CreateWindowExA(0, wc.lpszClassName, "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, NULL,
-                                   NULL, wc.hInstance, NULL);
-        g_commands.clear();
-        g_lAnswer = 0;
+        if (nMsg != WM_COMMAND || HIWORD(wParam) == EN_CHANGE || HIWORD(wParam) == EN_UPDATE)
+            return CWnd::WindowProc(nMsg, wParam, lParam);
+        m_commands.push_back(Str("%x %u %p", HIWORD(wParam), LOWORD(wParam), (void*)lParam));
+        return m_lAnswer;
     }
-    ~Parent() { ::DestroyWindow(m_hWnd); }
-    CWnd* Wnd() { return CWnd::FromHandle(m_hWnd); }
 
-    HWND m_hWnd;
+    std::vector<std::string> m_commands;
+    LRESULT m_lAnswer = 0;
 };
 
 const CRect rectEdit(10, 10, 200, 34);
@@ -76,25 +59,25 @@ TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
     CFloatEdit edit(0);
     EXPECT_STREQ("0123456789.-", edit.m_strValid);
     EXPECT_EQ(7, edit.m_nPrecision);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 77));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 77));
     // Characters, not the number: signs and points anywhere are taken.
     Type(edit.m_hWnd, "-1.5.-2");
     EXPECT_EQ("-1.5.-2", TextOf(edit.m_hWnd));
-    EXPECT_TRUE(g_commands.empty());
+    EXPECT_TRUE(parent.m_commands.empty());
     // Letters, the exponent, blanks and thousands separators are refused,
     // each with one notification that names the control.
     Type(edit.m_hWnd, "e ,x");
     EXPECT_EQ("-1.5.-2", TextOf(edit.m_hWnd));
-    EXPECT_EQ(std::vector<std::string>(4, Str("%x 77 %p", FEN_BADINPUT, (void*)edit.m_hWnd)), g_commands);
+    EXPECT_EQ(std::vector<std::string>(4, Str("%x 77 %p", FEN_BADINPUT, (void*)edit.m_hWnd)), parent.m_commands);
     // Control characters keep their editing role.
     Type(edit.m_hWnd, "\b\b");
     EXPECT_EQ("-1.5.", TextOf(edit.m_hWnd));
     // A parent that answers -1 takes the refusal over (no beep); the
     // character is refused all the same.
-    g_lAnswer = -1;
+    parent.m_lAnswer = -1;
     Type(edit.m_hWnd, "y");
     EXPECT_EQ("-1.5.", TextOf(edit.m_hWnd));
-    EXPECT_EQ(5u, g_commands.size());
+    EXPECT_EQ(5u, parent.m_commands.size());
 }
 
 TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
@@ -102,10 +85,10 @@ TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
     Parent parent;
     CFloatEdit edit(lcidGerman);
     EXPECT_STREQ("0123456789,-", edit.m_strValid);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 78));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 78));
     Type(edit.m_hWnd, "1,5.");
     EXPECT_EQ("1,5", TextOf(edit.m_hWnd));
-    EXPECT_EQ(1u, g_commands.size());
+    EXPECT_EQ(1u, parent.m_commands.size());
     // SetValue: seven significant digits (or the precision) in the runtime's notation.
     edit.SetValue(1.0 / 3.0);
     EXPECT_EQ("0.3333333", TextOf(edit.m_hWnd));
@@ -118,7 +101,7 @@ TEST(IntlEdit, ShowsAndReadsTheLocalesNotation)
 {
     Parent parent;
     CIntlEdit edit(lcidGerman);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 81));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 81));
     edit.SetValue(-1.5);
     EXPECT_EQ("-1,5", TextOf(edit.m_hWnd));
     const struct
@@ -143,7 +126,7 @@ TEST(IntlEdit, TakesOnlyKeystrokesOfANumber)
 {
     Parent parent;
     CIntlEdit edit(lcidGerman);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 82));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 82));
     Type(edit.m_hWnd, "-1,5e+2.x \b\b");
     EXPECT_EQ("-1,5e", TextOf(edit.m_hWnd));
     // A double-byte character is refused whole.
@@ -154,5 +137,5 @@ TEST(IntlEdit, TakesOnlyKeystrokesOfANumber)
         EXPECT_EQ("-1,5e3", TextOf(edit.m_hWnd));
     }
     // Nothing goes to the parent: the control beeps and says nothing.
-    EXPECT_TRUE(g_commands.empty());
+    EXPECT_TRUE(parent.m_commands.empty());
 }

@@ -49,25 +49,19 @@ TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
     EXPECT_EQ(GRAPH_OK, graph.SetAutoScaleMode(1));
     EXPECT_EQ(GRAPH_OK, graph.SetRadarPercent(0.0, 0.0));   // limits equal to the data's extent
 
-    GuardedFloats fX16(16), fY16(16), fX8(8), fY8(8);
-    for (int i = 0; i < 16; i++) {
-        fX16.m_pf[i] = (float)i;
-        fY16.m_pf[i] = (float)(i * i);
-    }
-    for (int i = 0; i < 8; i++) {
-        fX8.m_pf[i] = (float)(100 + i);
-        fY8.m_pf[i] = (float)-i;
-    }
+    // Each series of floats has the same array for X and Y.
+    GuardedFloats f16(16), f8(8);
+    for (int i = 0; i < 16; i++)
+        f16.m_pf[i] = (float)i;
+    for (int i = 0; i < 8; i++)
+        f8.m_pf[i] = (float)(100 + i);
     // The owned copies of the doubles are large enough for the heap to give
     // their pages back when they are freed: a reader still in them faults.
     const long nDoubles = 1 << 18;
     std::vector<double> ad(nDoubles);
     for (long i = 0; i < nDoubles; i++)
-        ad[i] = i * 1e-3;
-    double adLast[12];
-    for (int i = 0; i < 12; i++)
-        adLast[i] = 1000.0 + i;
-    ASSERT_EQ(GRAPH_OK, graph.AddPlotData("s", PLOT_YLEFT, fX16.m_pf, fY16.m_pf, 16, 0xFF0000, PS_SOLID, 0));
+        ad[i] = (double)i;
+    ASSERT_EQ(GRAPH_OK, graph.AddPlotData("s", PLOT_YLEFT, f16.m_pf, f16.m_pf, 16, 0xFF0000, PS_SOLID, 0));
     CPlotData* pData = FindSeries(graph, "s");
     double dMin = 0, dMax = 0;
     PVOID pFaultHandler = ::AddVectoredExceptionHandler(1, CountFault);
@@ -79,8 +73,7 @@ TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
     std::atomic<bool> bHeld(false);
     std::thread updater([&] {
         CSingleLock lock(&g.Prv()->m_csPlotData, TRUE);
-        pData->m_pfXData = fX8.m_pf;
-        pData->m_pfYData = fY8.m_pf;
+        pData->m_pfXData = pData->m_pfYData = f8.m_pf;
         bHeld = true;
         ::Sleep(300);
         pData->m_lPoints = 8;
@@ -96,15 +89,15 @@ TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
 
     // The host thread swaps arrays of 16 and 8 floats and owned copies of
     // doubles while the window paints, for at most 400 paints or a second;
-    // its last update is the doubles' last.
+    // its last update is 12 of the doubles, from 1000.
     std::atomic<bool> bStop(false);
     int nUpdates = 0, nRefused = 0;
     std::thread host([&] {
         for (; !bStop && nUpdates < 5000000; nUpdates++) {
             int nResult;
             switch (nUpdates % 4) {
-            case 0: nResult = graph.UpdatePlotData("s", fX16.m_pf, fY16.m_pf, 0, 16); break;
-            case 1: nResult = graph.UpdatePlotData("s", fX8.m_pf, fY8.m_pf, 0, 8); break;
+            case 0: nResult = graph.UpdatePlotData("s", f16.m_pf, f16.m_pf, 0, 16); break;
+            case 1: nResult = graph.UpdatePlotData("s", f8.m_pf, f8.m_pf, 0, 8); break;
             default: nResult = graph.UpdatePlotData("s", ad.data(), ad.data(), 0, nDoubles); break;
             }
             nRefused += nResult != GRAPH_OK;
@@ -113,7 +106,7 @@ TEST(HostileData, HostThreadUpdatesWhileTheWindowPaintsScaledToTheData)
             if (nUpdates % 4 == 3)
                 ::Sleep(1);
         }
-        nRefused += graph.UpdatePlotData("s", adLast, adLast, 0, 12) != GRAPH_OK;
+        nRefused += graph.UpdatePlotData("s", ad.data() + 1000, ad.data() + 1000, 0, 12) != GRAPH_OK;
     });
     int nPaints = 0;
     for (const DWORD dwBegin = ::GetTickCount(); nPaints < 400 && ::GetTickCount() - dwBegin < 1000; nPaints++)
