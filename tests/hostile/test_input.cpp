@@ -126,10 +126,8 @@ namespace {
 struct Outputs
 {
     double d[2];
-    RECT rc;
     DWORD dw;
     int n[2];
-    WORD w;
     LOGFONT lf;
     double adIn[4];   // double arrays handed in
 };
