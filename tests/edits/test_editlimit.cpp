@@ -55,22 +55,17 @@ public:
 
 const CRect rectBox(100, 250, 150, 270);
 
-// Opens an editor the way a click on a limit does: a child of the graph
-// with the style of the limit boxes, the graph's font, the focus, the text
-// selected, at most 10 characters typed.
+// Opens an editor the way a click on a limit does: a visible child of the
+// graph with the style of the limit boxes, the graph's font, the focus, the
+// text selected.
 HWND OpenEditor(WindowGraph& g, UINT nID, const char* pszText = "", const CRect& rect = rectBox)
 {
     CEditLimit* pEdit = new CountedEditLimit(g.Prv());
-    if (!pEdit->Create(0x50800081, rect, g.Prv(), nID)) {
-        delete pEdit;
-        return NULL;
-    }
+    EXPECT_TRUE(pEdit->Create(0x50800081, rect, g.Prv(), nID));
     pEdit->SetFont(&g.Prv()->m_font, TRUE);
-    pEdit->ShowWindow(SW_SHOW);
     pEdit->SetFocus();
     pEdit->ReplaceSel(pszText);
     pEdit->SetSel(0, -1);
-    pEdit->LimitText(10);
     return pEdit->m_hWnd;
 }
 
@@ -120,20 +115,6 @@ TEST(EditLimit, ReturnTakesTheNumberEscapeLeavesTheLimit)
     EXPECT_EQ(2, g_nEditorsDeleted);
     EXPECT_EQ("x 1000 10 | yl 0 20 | yr 0 30", g.Limits());
     EXPECT_EQ(1, g.m_sink.m_nLimits);
-
-    // The same keys pressed, through the message queue.
-    hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, "10");
-    Type(hEdit, "42");
-    ::PostMessageA(hEdit, WM_KEYDOWN, VK_RETURN, 0x001C0001);
-    TestHost::Pump();
-    EXPECT_FALSE(::IsWindow(hEdit));
-    hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MAX, "42");
-    Type(hEdit, "7");
-    ::PostMessageA(hEdit, WM_KEYDOWN, VK_ESCAPE, 0x00010001);
-    TestHost::Pump();
-    EXPECT_FALSE(::IsWindow(hEdit));
-    EXPECT_EQ("x 1000 42 | yl 0 20 | yr 0 30", g.Limits());
-    EXPECT_EQ(2, g.m_sink.m_nLimits);
 }
 
 TEST(EditLimit, TextRules)
@@ -147,21 +128,16 @@ TEST(EditLimit, TextRules)
         bool bTaken;
         double dValue;
     } cases[] = {
-        { "1e3", true, 1000.0 },
-        { "12 ", true, 12.0 },   // blanks after the number
-        { "  -2.5   ", true, -2.5 },
-        { "12 x", false, 0 },   // anything else after them
-        { "12x", false, 0 },
+        { "  -2.5   ", true, -2.5 },   // blanks around the number
+        { "12 x", false, 0 },          // anything else after them
         { "", false, 0 },
         { "   ", true, 0.0 },   // blanks only: 0, with nothing behind it
         { "1,5", false, 0 },    // plain notation only, whatever the locale
         { "1.5", true, 1.5 },
-        { "abc", false, 0 },
         { "1e39", false, 0 },   // above the largest float
         { "3.4028234663852886e38", true, 3.4028234663852886e38 },
         { "5" + std::string(126, ' '), true, 5.0 },
         { "5" + std::string(127, ' '), false, 0 },
-        { "5" + std::string(299, ' '), false, 0 },
         { std::string(128, '1'), false, 0 },
     };
     for (const auto& c : cases) {
@@ -178,27 +154,11 @@ TEST(EditLimit, TextRules)
     }
 }
 
-TEST(EditLimit, EachBoxSetsItsOwnLimit)
-{
-    WindowGraph g;
-    const struct
-    {
-        UINT nID;
-        const char* pszText;
-    } boxes[] = { { IDC_LIMIT_EDIT_X_MIN, "1" },       { IDC_LIMIT_EDIT_X_MAX, "9" },
-                  { IDC_LIMIT_EDIT_YLEFT_MAX, "19" },  { IDC_LIMIT_EDIT_YLEFT_MIN, "2" },
-                  { IDC_LIMIT_EDIT_YRIGHT_MAX, "29" }, { IDC_LIMIT_EDIT_YRIGHT_MIN, "3" } };
-    for (const auto& box : boxes)
-        ApplyText(g, OpenEditor(g, box.nID), box.pszText);
-    EXPECT_EQ("x 1 9 | yl 2 19 | yr 3 29", g.Limits());
-    EXPECT_EQ(6, g.m_sink.m_nLimits);
-}
-
 TEST(EditLimit, OrderBitsSwapACrossedPair)
 {
-    // Without the bits a new value may cross the other limit: the axis
-    // turns round. GS_XLIMITORDER keeps the X minimum below the maximum,
-    // GS_YLIMITORDER does so for both Y axes.
+    // Each box sets its own limit. Without the bits a new value may cross
+    // the other limit: the axis turns round. GS_XLIMITORDER keeps the X
+    // minimum below the maximum, GS_YLIMITORDER does so for both Y axes.
     const struct
     {
         DWORD dwStyle;
@@ -214,6 +174,7 @@ TEST(EditLimit, OrderBitsSwapACrossedPair)
         { GS_YLIMITORDER, IDC_LIMIT_EDIT_YLEFT_MAX, "-5", "x 0 10 | yl -5 0 | yr 0 30" },
         { GS_YLIMITORDER, IDC_LIMIT_EDIT_YRIGHT_MIN, "32", "x 0 10 | yl 0 20 | yr 30 32" },
         { GS_YLIMITORDER, IDC_LIMIT_EDIT_X_MIN, "11", "x 11 10 | yl 0 20 | yr 0 30" },
+        { GS_YLIMITORDER, IDC_LIMIT_EDIT_YRIGHT_MAX, "29", "x 0 10 | yl 0 20 | yr 0 29" },
     };
     for (const auto& c : cases) {
         WindowGraph g(c.dwStyle);
@@ -224,22 +185,18 @@ TEST(EditLimit, OrderBitsSwapACrossedPair)
 
 TEST(EditLimit, BoxGrowsWithItsTextByItsId)
 {
+    // At every keystroke the box takes the width of its text and two more
+    // characters (average width of its own context): both ways from the
+    // centre (mode 0), to the left (1), or not at all (2); never narrower
+    // than it was made.
     WindowGraph g;
-    // Both ways from the centre, to the left, or not at all.
-    const struct
-    {
-        UINT nID;
-        int nMode;
-    } growth[] = { { IDC_LIMIT_EDIT_X_MIN, 0 }, { IDC_LIMIT_EDIT_YLEFT_MIN, 1 }, { IDC_LIMIT_EDIT_YRIGHT_MAX, 2 } };
+    const UINT anID[3] = { IDC_LIMIT_EDIT_X_MIN, IDC_LIMIT_EDIT_YLEFT_MIN, IDC_LIMIT_EDIT_YRIGHT_MAX };
     const CRect rectStart(150, 100, 180, 120);
-    for (const auto& c : growth) {
-        HWND hEdit = OpenEditor(g, c.nID, "", rectStart);
+    for (int nMode = 0; nMode < 3; nMode++) {
+        HWND hEdit = OpenEditor(g, anID[nMode], "", rectStart);
         ASSERT_EQ(rectStart, ChildRect(g, hEdit));
-        // The average width of the box's own context.
-        TEXTMETRICA tm;
-        HDC hDC = ::GetDC(hEdit);
-        ::GetTextMetricsA(hDC, &tm);
-        ::ReleaseDC(hEdit, hDC);
+        TEXTMETRIC tm;
+        CClientDC(CWnd::FromHandle(hEdit)).GetTextMetrics(&tm);
         CRect rectExpected = rectStart;
         int nLength = 0;
         for (const char* pKey = "123456789\b\b\b\b\b\b\b\b"; *pKey != '\0'; ++pKey) {
@@ -247,10 +204,10 @@ TEST(EditLimit, BoxGrowsWithItsTextByItsId)
             nLength += *pKey == '\b' ? -1 : 1;
             const int d = rectExpected.Width() - (nLength + 2) * tm.tmAveCharWidth;
             CRect rect = rectExpected;
-            rect.left += c.nMode == 0 ? d / 2 : c.nMode == 1 ? d : 0;
-            rect.right -= c.nMode == 0 ? d / 2 : 0;
+            rect.left += nMode == 0 ? d / 2 : nMode == 1 ? d : 0;
+            rect.right -= nMode == 0 ? d / 2 : 0;
             rectExpected = rect.Width() < rectStart.Width() ? rectStart : rect;
-            ASSERT_EQ(rectExpected, ChildRect(g, hEdit)) << c.nID << " after " << nLength;
+            ASSERT_EQ(rectExpected, ChildRect(g, hEdit)) << nMode << " after " << nLength;
         }
         EXPECT_EQ(rectStart, ChildRect(g, hEdit));   // it grew, and came back
         ::SendMessageA(hEdit, WM_CHAR, VK_ESCAPE, 1);
@@ -259,29 +216,17 @@ TEST(EditLimit, BoxGrowsWithItsTextByItsId)
 
 TEST(EditLimit, EditorGoesWithItsGraph)
 {
+    // With the focus it closes as usual when the graph goes; without the
+    // focus its window and the object go with the graph's window.
     g_nEditorsDeleted = 0;
-    {
-        // With the focus: it closes as usual when the graph goes.
-        WindowGraph g;
-        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, "3");
-        g.Prv()->DestroyWindow();
-        EXPECT_FALSE(::IsWindow(hEdit));
-    }
-    EXPECT_EQ(1, g_nEditorsDeleted);
-    {
-        // Losing the focus closes it; without the focus its window and the
-        // object go with the graph's window.
-        WindowGraph g;
-        HWND hEdit = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, "3");
-        ::SetFocus(NULL);
-        TestHost::Pump();
-        EXPECT_EQ(2, g_nEditorsDeleted);
-        EXPECT_FALSE(::IsWindow(hEdit));
-        CEditLimit* pEdit = new CountedEditLimit(g.Prv());
-        ASSERT_TRUE(pEdit->Create(0x50800081, rectBox, g.Prv(), IDC_LIMIT_EDIT_X_MAX));
-        hEdit = pEdit->m_hWnd;
-        g.Prv()->DestroyWindow();
-        EXPECT_FALSE(::IsWindow(hEdit));
-        EXPECT_EQ(3, g_nEditorsDeleted);
-    }
+    WindowGraph g;
+    const HWND hFocused = OpenEditor(g, IDC_LIMIT_EDIT_X_MIN, "3");
+    CEditLimit* pEdit = new CountedEditLimit(g.Prv());
+    ASSERT_TRUE(pEdit->Create(0x50800081, rectBox, g.Prv(), IDC_LIMIT_EDIT_X_MAX));
+    const HWND hOther = pEdit->m_hWnd;
+    ASSERT_EQ(hFocused, ::GetFocus());
+    g.Prv()->DestroyWindow();
+    EXPECT_FALSE(::IsWindow(hFocused));
+    EXPECT_FALSE(::IsWindow(hOther));
+    EXPECT_EQ(2, g_nEditorsDeleted);
 }

