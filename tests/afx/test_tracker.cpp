@@ -28,8 +28,9 @@ TEST(RectTracker, HitsAndDrawingOfAHatchedTrackerWithHandlesOutside)
     for (const auto& c : cases)
         EXPECT_EQ(c.nHit, tracker.HitTest(c.pt)) << c.pt.x << "," << c.pt.y;
 
-    // The border is hatched, the handles are solid, the item is untouched,
-    // and the context keeps its objects.
+    // The border is hatched, the handles are solid (reaching one pixel into
+    // the item), the rest of the item is untouched, and the context keeps
+    // its objects.
     Dib dib(200, 150, WHITE);
     HGDIOBJ hBrush = ::GetCurrentObject(dib.DC()->m_hDC, OBJ_BRUSH);
     tracker.Draw(dib.DC());
@@ -38,7 +39,7 @@ TEST(RectTracker, HitsAndDrawingOfAHatchedTrackerWithHandlesOutside)
     EXPECT_GT(nHatch, 0);
     EXPECT_LT(nHatch, 30 * 3);
     EXPECT_EQ(16, dib.Count(47, 47, 51, 51, BLACK));
-    EXPECT_EQ(100 * 50, dib.Count(50, 50, 150, 100, WHITE));
+    EXPECT_EQ(98 * 48, dib.Count(51, 51, 149, 99, WHITE));
 
     // The cursor is the tracker's only over the client area.
     TestHost host;
