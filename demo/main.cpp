@@ -288,20 +288,20 @@ int DriveHeadless(CGraph& graph, PrintingSink& sink)
     send(WM_LBUTTONDOWN, r.CenterPoint(), MK_LBUTTON);
     send(WM_LBUTTONUP, r.CenterPoint(), 0);
 
+    // A right click opens the menu; the entry of cChoice is taken from it.
+    auto chooseFromMenu = [&](char cChoice) {
+        g_cMenuChoice = cChoice;
+        ::SetTimer(NULL, 0, 50, ChooseFromMenu);
+        send(WM_RBUTTONDOWN, r.CenterPoint(), MK_RBUTTON);
+        send(WM_RBUTTONUP, r.CenterPoint(), 0);
+        Pump();
+    };
     printf("right click: the context menu, its scaling entry chosen\n");
-    g_cMenuChoice = 'a';
-    ::SetTimer(NULL, 0, 50, ChooseFromMenu);
-    send(WM_RBUTTONDOWN, r.CenterPoint(), MK_RBUTTON);
-    send(WM_RBUTTONUP, r.CenterPoint(), 0);
-    Pump();
+    chooseFromMenu('a');
     PrintLimits(graph, "after the menu's scaling:");
 
     printf("the host's own entry, Reset view\n");
-    g_cMenuChoice = 'v';
-    ::SetTimer(NULL, 0, 50, ChooseFromMenu);
-    send(WM_RBUTTONDOWN, r.CenterPoint(), MK_RBUTTON);
-    send(WM_RBUTTONUP, r.CenterPoint(), 0);
-    Pump();
+    chooseFromMenu('v');
     PrintLimits(graph, "after Reset view:");
 
     printf("zoom on the first peaks, with their marks and labels\n");
