@@ -113,6 +113,7 @@ CGraphPrv& CGraphPrv::operator=(const CGraphPrv& src)
     m_font.CreatePointFontIndirect(&m_logFont, NULL);
 
     m_wRadarType = src.m_wRadarType;
+    m_bColumnReduction = src.m_bColumnReduction;
     m_dRadarXPercent = src.m_dRadarXPercent;
     m_dRadarYPercent = src.m_dRadarYPercent;
 

@@ -134,6 +134,7 @@ int CGraph::RemovePropertyPage(DWORD dwId) { return m_pGraphPrv->RemovePropertyP
 int CGraph::SetPropertyPageConfiguration(long lConfig) { return m_pGraphPrv->SetPropertyPageConfiguration(lConfig); }
 int CGraph::EnableNotifications(CGraphNotify* pNotify, long lMask) { return m_pGraphPrv->EnableNotifications(pNotify, lMask); }
 int CGraph::EnableZoom(int bEnable) { return m_pGraphPrv->EnableZoom(bEnable); }
+int CGraph::EnableColumnReduction(BOOL bEnable) { return m_pGraphPrv->EnableColumnReduction(bEnable); }
 int CGraph::DisplayMenu(POINT* pPoint) { return m_pGraphPrv->DisplayMenu(pPoint); }
 
 // Drawing

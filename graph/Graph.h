@@ -128,6 +128,9 @@ public:
     int EnableNotifications(CGraphNotify* pNotify, long lMask);
     // Rubber-band zoom with the left button in the plot (on by default).
     int EnableZoom(int bEnable);
+    // Lines of a solid pen one pixel wide go to the device reduced per pixel
+    // column: the same pixels, far fewer points (off by default).
+    int EnableColumnReduction(BOOL bEnable);
     // The context menu at a point in screen coordinates.
     int DisplayMenu(POINT* pPoint);
 

@@ -41,7 +41,7 @@ CGraphPrv::CGraphPrv()
       m_dRadarXPercent(0.0), m_dRadarYPercent(10.0), m_bRadarPercentControls(TRUE),
       m_bRadarAxisControls(TRUE), m_hPlotCursor(NULL), m_mapFloatingLabels(10),
       m_pLabelTracker(NULL), m_wNextLabelId(2001), m_lPropPageConfig(15), m_lMenuConfig(63),
-      m_strMaxLenFormat("%.3E")
+      m_strMaxLenFormat("%.3E"), m_bColumnReduction(FALSE)
 {
     m_dYMax[0] = m_dYMax[1] = 1.0;
     m_dYMin[0] = m_dYMin[1] = 0.0;

@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <malloc.h>
 #include <string.h>
+#include <thread>
 #include <vector>
 
 // The vector walk needs 256-bit integer registers (AVX2). It is compiled for
@@ -282,7 +283,233 @@ long ReduceSeries(CPlotData* pPlotData, const PIXELXFORM& xf)
     return iOut;
 }
 
+// ---------------------------------------------------------------------------
+// [SECTION] Reduction per pixel column
+// ---------------------------------------------------------------------------
+//
+// For a series drawn with a solid pen one pixel wide, every run of
+// consecutive points in one pixel column is cut down to its first, its
+// lowest, its highest and its last point, in their order in the data. The
+// device colours the same pixels: the segments inside a column are vertical,
+// and a path through all points of the run covers exactly the pixels from
+// its lowest to its highest point, as the path through the four does, with
+// the same ends; the segments that join two columns are kept as they are.
+// A run in a column of the plot that reaches beyond its top or bottom edge
+// is kept whole: there the clip leaves out the edge pixel of a segment that
+// leaves the plot but not of one that enters it, and only the whole path
+// knows which. Columns left or right of the plot show no vertical segment.
+
+// One pixel column while the walk is in it.
+struct COLUMNRUN
+{
+    unsigned int x;               // the column
+    PIXELWORD wFirst, wLast;      // its first and last point so far
+    PIXELWORD wLow, wHigh;        // its points of smallest and largest y, first met
+    int yLow, yHigh;
+    long iLow, iHigh;             // where those two came in the data
+    long iFirst, iLast;           // the data indices the run spans
+};
+
+// What the walk over a series needs besides the run.
+struct COLUMNWALK
+{
+    const float* pfX;
+    const float* pfY;
+    PIXELXFORM xf;
+    int nLeft, nTop, nRight, nBottom;   // the plot, edges included
+};
+
+inline void StartRun(COLUMNRUN& run, PIXELWORD w, long i)
+{
+    run.x = (unsigned int)w;
+    run.wFirst = run.wLast = run.wLow = run.wHigh = w;
+    run.yLow = run.yHigh = (int)(w >> 32);
+    run.iLow = run.iHigh = run.iFirst = run.iLast = i;
+}
+
+inline void AddToRun(COLUMNRUN& run, PIXELWORD w, long i)
+{
+    const int y = (int)(w >> 32);
+    if (y < run.yLow) {
+        run.yLow = y;
+        run.wLow = w;
+        run.iLow = i;
+    } else if (y > run.yHigh) {
+        run.yHigh = y;
+        run.wHigh = w;
+        run.iHigh = i;
+    }
+    run.wLast = w;
+    run.iLast = i;
+}
+
+// Joins run b, which followed run a in the same column, into a.
+inline void JoinRuns(COLUMNRUN& a, const COLUMNRUN& b)
+{
+    if (b.yLow < a.yLow) {
+        a.yLow = b.yLow;
+        a.wLow = b.wLow;
+        a.iLow = b.iLow;
+    }
+    if (b.yHigh > a.yHigh) {
+        a.yHigh = b.yHigh;
+        a.wHigh = b.wHigh;
+        a.iHigh = b.iHigh;
+    }
+    a.wLast = b.wLast;
+    a.iLast = b.iLast;
+}
+
+inline void EmitWord(PIXELWORD w, POINT* pOut, long& k)
+{
+    if (k == 0 || w != MakePixelWord(pOut[k - 1].x, pOut[k - 1].y))
+        memcpy(&pOut[k++], &w, sizeof(w));
+}
+
+// The kept points of a run, in data order, a point equal to the one before
+// it left out: four of them, or all of a run that crosses an edge.
+template <bool bClamp>
+void EmitRun(const COLUMNRUN& run, const COLUMNWALK& walk, POINT* pOut, long& k)
+{
+    const int x = (int)run.x;
+    const bool bInColumns = x >= walk.nLeft && x <= walk.nRight;
+    if (bInColumns && (run.yLow < walk.nTop || run.yHigh > walk.nBottom)) {
+        PIXELWORD aBlock[XFORM_BLOCK];
+        for (long iBlock = run.iFirst; iBlock <= run.iLast; iBlock += XFORM_BLOCK) {
+            const long n = std::min(XFORM_BLOCK, run.iLast + 1 - iBlock);
+            XformBlock<bClamp>(walk.pfX + iBlock, walk.pfY + iBlock, n, walk.xf, aBlock);
+            for (long i = 0; i < n; i++)
+                EmitWord(aBlock[i], pOut, k);
+        }
+        return;
+    }
+    const bool bLowFirst = run.iLow <= run.iHigh;
+    EmitWord(run.wFirst, pOut, k);
+    EmitWord(bLowFirst ? run.wLow : run.wHigh, pOut, k);
+    EmitWord(bLowFirst ? run.wHigh : run.wLow, pOut, k);
+    EmitWord(run.wLast, pOut, k);
+}
+
+// The columns of points [iFrom, iTo), run by run, written at pOut[k...].
+// The last run is left open in runLast (it may go on after iTo); with
+// bHoldFirst the first is left in runFirst too (it may go on from before
+// iFrom). Returns the number of runs, 0 for an empty range.
+template <bool bClamp>
+long ReduceColumns(const COLUMNWALK& walk, long iFrom, long iTo, POINT* pOut, long& k, bool bHoldFirst,
+                   COLUMNRUN& runFirst, COLUMNRUN& runLast)
+{
+    if (iFrom >= iTo)
+        return 0;
+    PIXELWORD aBlock[XFORM_BLOCK];
+    long nRuns = 1;
+    COLUMNRUN run;
+    for (long iBlock = iFrom; iBlock < iTo; iBlock += XFORM_BLOCK) {
+        const long n = std::min(XFORM_BLOCK, iTo - iBlock);
+        XformBlock<bClamp>(walk.pfX + iBlock, walk.pfY + iBlock, n, walk.xf, aBlock);
+        long i = 0;
+        if (iBlock == iFrom) {
+            StartRun(run, aBlock[0], iFrom);
+            i = 1;
+        }
+        for (; i < n; i++) {
+            const PIXELWORD w = aBlock[i];
+            if ((unsigned int)w == run.x) {
+                AddToRun(run, w, iBlock + i);
+                continue;
+            }
+            if (nRuns == 1 && bHoldFirst)
+                runFirst = run;
+            else
+                EmitRun<bClamp>(run, walk, pOut, k);
+            nRuns++;
+            StartRun(run, w, iBlock + i);
+        }
+    }
+    if (nRuns == 1)
+        runFirst = run;
+    runLast = run;
+    return nRuns;
+}
+
+// Points below which the second core is not worth its start.
+const long COLUMN_SPLIT_MIN = 1L << 20;
+
+// The column reduction of a whole series into its pixel array; returns the
+// number of points kept. A long series is cut in two halves, the second
+// walked by another thread into the upper part of the array; the runs at
+// the cut are joined afterwards, so the result does not depend on the cut.
+template <bool bClamp>
+long ReduceSeriesColumns(CPlotData* pPlotData, const PIXELXFORM& xf, const CRect& rectPlot)
+{
+    const long nPoints = pPlotData->m_lPoints;
+    const COLUMNWALK walk = { pPlotData->m_pfXData + pPlotData->m_lStartIndex,
+                              pPlotData->m_pfYData + pPlotData->m_lStartIndex, xf,
+                              rectPlot.left, rectPlot.top, rectPlot.right, rectPlot.bottom };
+    POINT* pOut = pPlotData->m_pPointArray;
+
+    long nSplit = nPoints;
+    long k2 = 0, nRuns2 = 0;
+    COLUMNRUN runFirst2, runLast2;
+    std::thread worker;
+    if (nPoints >= COLUMN_SPLIT_MIN) {
+        nSplit = nPoints / 2;
+        try {
+            worker = std::thread([&] {
+                nRuns2 = ReduceColumns<bClamp>(walk, nSplit, nPoints, pOut + nSplit, k2, true, runFirst2, runLast2);
+            });
+        } catch (...) {
+            nSplit = nPoints;   // no thread to be had: one walk over all
+        }
+    }
+    long k = 0;
+    COLUMNRUN runFirst, runLast;
+    ReduceColumns<bClamp>(walk, 0, nSplit, pOut, k, false, runFirst, runLast);
+    if (worker.joinable())
+        worker.join();
+    if (nRuns2 == 0) {
+        EmitRun<bClamp>(runLast, walk, pOut, k);
+        return k;
+    }
+    // The cut: a run that goes on across it is one run. The second half's
+    // points are moved up out of the way first: the runs at the cut, kept
+    // whole, can be longer than the room left below them.
+    const long nCutPoints = (runLast.iLast - runLast.iFirst + 1) + (runFirst2.iLast - runFirst2.iFirst + 1);
+    const long nSecondAt = k + nCutPoints;
+    if (nRuns2 > 1)
+        memmove(pOut + nSecondAt, pOut + nSplit, (size_t)k2 * sizeof(POINT));
+    if (runFirst2.x == runLast.x) {
+        JoinRuns(runLast, runFirst2);
+        EmitRun<bClamp>(runLast, walk, pOut, k);
+    } else {
+        EmitRun<bClamp>(runLast, walk, pOut, k);
+        EmitRun<bClamp>(runFirst2, walk, pOut, k);
+    }
+    if (nRuns2 > 1) {
+        // The second half's middle runs, then its last one.
+        memmove(pOut + k, pOut + nSecondAt, (size_t)k2 * sizeof(POINT));
+        k += k2;
+        EmitRun<bClamp>(runLast2, walk, pOut, k);
+    }
+    return k;
+}
+
 } // namespace
+
+int CGraphPrv::EnableColumnReduction(BOOL bEnable)
+{
+    m_bColumnReduction = bEnable;
+    m_bPointsStale = TRUE;
+    return GRAPH_OK;
+}
+
+BOOL CGraphPrv::ReducesByColumn(const CPlotData* pPlotData) const
+{
+    // Only a solid line one pixel wide colours the whole vertical stretch
+    // between the points of a column and nothing beside it.
+    return m_bColumnReduction && pPlotData->m_nLineStyle == PS_SOLID && pPlotData->m_nLineWidth >= 0 &&
+           pPlotData->m_nLineWidth <= 1 &&
+           pPlotData->m_listHighlights.IsEmpty();
+}
 
 void CGraphPrv::OptimizePoints(CPlotData* pPlotData)
 {
@@ -330,7 +557,11 @@ void CGraphPrv::OptimizePoints(CPlotData* pPlotData)
 
     long nKept;
     try {
-        nKept = IsWin98() ? ReduceSeries<true>(pPlotData, xf) : ReduceSeries<false>(pPlotData, xf);
+        if (ReducesByColumn(pPlotData))
+            nKept = IsWin98() ? ReduceSeriesColumns<true>(pPlotData, xf, m_rectPlot)
+                              : ReduceSeriesColumns<false>(pPlotData, xf, m_rectPlot);
+        else
+            nKept = IsWin98() ? ReduceSeries<true>(pPlotData, xf) : ReduceSeries<false>(pPlotData, xf);
     } catch (CMemoryException* e) {
         // Only the region bookkeeping allocates: without it the regions
         // cannot be placed, and the series is drawn without a line.
