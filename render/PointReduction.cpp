@@ -185,6 +185,28 @@ void ReduceRangeAvx2(const float* pfX, const float* pfY, long iFrom, long iTo, c
     ReduceRangeGeneric<false>(pfX, pfY, i, iTo, xf, pOut, iOut, wPrev);
 }
 
+// The pixels of a block four points at a time: the same products, sums and
+// truncation as XformBlock, so the same pixels.
+ZPX_TARGET_AVX2
+void XformBlockAvx2(const float* pfX, const float* pfY, long n, const PIXELXFORM& xf, PIXELWORD* pWords)
+{
+    const __m256d vXScale = _mm256_set1_pd(xf.dXScale);
+    const __m256d vXOffset = _mm256_set1_pd(xf.dXOffset);
+    const __m256d vYScale = _mm256_set1_pd(xf.dYScale);
+    const __m256d vYOffset = _mm256_set1_pd(xf.dYOffset);
+    long i = 0;
+    for (; i + 4 <= n; i += 4) {
+        const __m256d dX = _mm256_cvtps_pd(_mm_loadu_ps(pfX + i));
+        const __m256d dY = _mm256_cvtps_pd(_mm_loadu_ps(pfY + i));
+        const __m128i nX = _mm256_cvttpd_epi32(_mm256_add_pd(_mm256_mul_pd(vXScale, dX), vXOffset));
+        const __m128i nY = _mm256_cvttpd_epi32(_mm256_sub_pd(vYOffset, _mm256_mul_pd(vYScale, dY)));
+        _mm_storeu_si128((__m128i*)(pWords + i), _mm_unpacklo_epi32(nX, nY));
+        _mm_storeu_si128((__m128i*)(pWords + i + 2), _mm_unpackhi_epi32(nX, nY));
+    }
+    _mm256_zeroupper();
+    XformBlock<false>(pfX + i, pfY + i, n - i, xf, pWords + i);
+}
+
 bool CpuHasAvx2()
 {
     __builtin_cpu_init();
@@ -192,6 +214,30 @@ bool CpuHasAvx2()
 }
 
 #endif
+
+typedef void (*XFORMBLOCKPROC)(const float* pfX, const float* pfY, long n, const PIXELXFORM& xf, PIXELWORD* pWords);
+
+// The block transform for the unclamped pixels: the vector form where the
+// processor has it.
+XFORMBLOCKPROC ChooseXformBlock()
+{
+#if ZPX_HAVE_AVX2_KERNEL
+    if (CpuHasAvx2())
+        return XformBlockAvx2;
+#endif
+    return XformBlock<false>;
+}
+
+template <bool bClamp>
+inline void XformColumnBlock(const float* pfX, const float* pfY, long n, const PIXELXFORM& xf, PIXELWORD* pWords)
+{
+    if (bClamp) {
+        XformBlock<true>(pfX, pfY, n, xf, pWords);
+    } else {
+        static const XFORMBLOCKPROC s_pfnXform = ChooseXformBlock();
+        s_pfnXform(pfX, pfY, n, xf, pWords);
+    }
+}
 
 // The walk for the unclamped pixels of the NT family: the vector form where
 // the processor has it.
@@ -327,20 +373,34 @@ inline void StartRun(COLUMNRUN& run, PIXELWORD w, long i)
     run.iLow = run.iHigh = run.iFirst = run.iLast = i;
 }
 
-inline void AddToRun(COLUMNRUN& run, PIXELWORD w, long i)
+// Points [i, j) of a block, all in the run's column, into the run; the
+// block starts at data index iBlock.
+inline void AddSpanToRun(COLUMNRUN& run, const PIXELWORD* pWords, long i, long j, long iBlock)
 {
-    const int y = (int)(w >> 32);
-    if (y < run.yLow) {
-        run.yLow = y;
-        run.wLow = w;
-        run.iLow = i;
-    } else if (y > run.yHigh) {
-        run.yHigh = y;
-        run.wHigh = w;
-        run.iHigh = i;
+    int yLow = run.yLow, yHigh = run.yHigh;
+    for (long m = i; m < j; m++) {
+        const int y = (int)(pWords[m] >> 32);
+        yLow = y < yLow ? y : yLow;
+        yHigh = y > yHigh ? y : yHigh;
     }
-    run.wLast = w;
-    run.iLast = i;
+    if (yLow < run.yLow) {
+        long m = i;
+        while ((int)(pWords[m] >> 32) != yLow)
+            m++;
+        run.yLow = yLow;
+        run.wLow = pWords[m];
+        run.iLow = iBlock + m;
+    }
+    if (yHigh > run.yHigh) {
+        long m = i;
+        while ((int)(pWords[m] >> 32) != yHigh)
+            m++;
+        run.yHigh = yHigh;
+        run.wHigh = pWords[m];
+        run.iHigh = iBlock + m;
+    }
+    run.wLast = pWords[j - 1];
+    run.iLast = iBlock + j - 1;
 }
 
 // Joins run b, which followed run a in the same column, into a.
@@ -377,7 +437,7 @@ void EmitRun(const COLUMNRUN& run, const COLUMNWALK& walk, POINT* pOut, long& k)
         PIXELWORD aBlock[XFORM_BLOCK];
         for (long iBlock = run.iFirst; iBlock <= run.iLast; iBlock += XFORM_BLOCK) {
             const long n = std::min(XFORM_BLOCK, run.iLast + 1 - iBlock);
-            XformBlock<bClamp>(walk.pfX + iBlock, walk.pfY + iBlock, n, walk.xf, aBlock);
+            XformColumnBlock<bClamp>(walk.pfX + iBlock, walk.pfY + iBlock, n, walk.xf, aBlock);
             for (long i = 0; i < n; i++)
                 EmitWord(aBlock[i], pOut, k);
         }
@@ -405,16 +465,21 @@ long ReduceColumns(const COLUMNWALK& walk, long iFrom, long iTo, POINT* pOut, lo
     COLUMNRUN run;
     for (long iBlock = iFrom; iBlock < iTo; iBlock += XFORM_BLOCK) {
         const long n = std::min(XFORM_BLOCK, iTo - iBlock);
-        XformBlock<bClamp>(walk.pfX + iBlock, walk.pfY + iBlock, n, walk.xf, aBlock);
+        XformColumnBlock<bClamp>(walk.pfX + iBlock, walk.pfY + iBlock, n, walk.xf, aBlock);
         long i = 0;
         if (iBlock == iFrom) {
             StartRun(run, aBlock[0], iFrom);
             i = 1;
         }
-        for (; i < n; i++) {
-            const PIXELWORD w = aBlock[i];
-            if ((unsigned int)w == run.x) {
-                AddToRun(run, w, iBlock + i);
+        while (i < n) {
+            // The stretch of the block that stays in the run's column: its
+            // lowest and highest y first, their places only when they are new.
+            long j = i;
+            while (j < n && (unsigned int)aBlock[j] == run.x)
+                j++;
+            if (j > i) {
+                AddSpanToRun(run, aBlock, i, j, iBlock);
+                i = j;
                 continue;
             }
             if (nRuns == 1 && bHoldFirst)
@@ -422,7 +487,8 @@ long ReduceColumns(const COLUMNWALK& walk, long iFrom, long iTo, POINT* pOut, lo
             else
                 EmitRun<bClamp>(run, walk, pOut, k);
             nRuns++;
-            StartRun(run, w, iBlock + i);
+            StartRun(run, aBlock[i], iBlock + i);
+            i++;
         }
     }
     if (nRuns == 1)
