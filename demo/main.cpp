@@ -1,6 +1,7 @@
 // graphdemo: a host program of ZPXGraph. It opens a top-level window with one
 // graph child showing several series on both Y axes (one of a million
-// points), with marks and point labels, reference lines, a grid and titles.
+// points, one of ten million drawn per pixel column), with marks and point
+// labels, reference lines, a grid and titles.
 // The user zooms with the left button, scales back with a double click,
 // edits a limit by clicking it, and has the context menu on the right
 // button, where the host has put an entry of its own ("Reset view"). Every
@@ -66,6 +67,7 @@ struct DemoData
     std::vector<float> waveX, waveY;      // a million points of a damped wave
     std::vector<double> stepX, stepY;     // a staircase on the right axis (copied by the graph)
     std::vector<float> noiseX, noiseY;    // a noisy trace
+    std::vector<float> denseX, denseY;    // ten million noisy samples
 };
 
 void MakeData(DemoData& data)
@@ -89,6 +91,14 @@ void MakeData(DemoData& data)
         nSeed = nSeed * 1103515245u + 12345u;
         data.noiseX.push_back((float)(i * 10.0 / 399));
         data.noiseY.push_back((float)(-6.0 + 0.1 * i * 0.025 + ((nSeed >> 16) % 1000) / 500.0));
+    }
+    const int nDense = 10000000;
+    data.denseX.resize(nDense);
+    data.denseY.resize(nDense);
+    for (int i = 0; i < nDense; i++) {
+        nSeed = nSeed * 1103515245u + 12345u;
+        data.denseX[i] = (float)(10.0 * i / (nDense - 1));
+        data.denseY[i] = (float)(-9.6 + 0.4 * sin(0.6 * data.denseX[i]) + ((nSeed >> 12) % 10000) / 8000.0);
     }
 }
 
@@ -125,6 +135,11 @@ void SetUpGraph(CGraph& graph, DemoData& data)
                       (long)data.waveX.size(), RGB(0, 0, 255), PS_SOLID, 0);
     graph.AddPlotData("noise", PLOT_YLEFT, data.noiseX.data(), data.noiseY.data(),
                       (long)data.noiseX.size(), RGB(0, 150, 0), PS_DOT, 0);
+    // Ten million samples, drawn per pixel column: the same picture, at
+    // interactive speed.
+    graph.AddPlotData("dense noise", PLOT_YLEFT, data.denseX.data(), data.denseY.data(), (long)data.denseX.size(),
+                      RGB(150, 90, 0), PS_SOLID, 0);
+    graph.EnableColumnReduction(TRUE);
     graph.AddPlotData("level", PLOT_YRIGHT, data.stepX.data(), data.stepY.data(),
                       (long)data.stepX.size(), RGB(200, 0, 0), PS_SOLID, 0);
 
@@ -180,7 +195,9 @@ HWND CreateFrame(int nWidth, int nHeight)
     wc.hbrBackground = (HBRUSH)(COLOR_BTNFACE + 1);
     wc.lpszClassName = "ZPXGraphDemoFrame";
     ::RegisterClassA(&wc);
-    return ::CreateWindowExA(0, wc.lpszClassName, "ZPXGraph demo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+    return ::CreateWindowExA(0, wc.lpszClassName,
+                             "ZPXGraph demo - 10,000,000 noisy samples drawn per pixel column",
+                             WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                              CW_USEDEFAULT, CW_USEDEFAULT, nWidth, nHeight, NULL, NULL, wc.hInstance, NULL);
 }
 
