@@ -136,6 +136,8 @@ int CGraph::EnableNotifications(CGraphNotify* pNotify, long lMask) { return m_pG
 int CGraph::EnableZoom(int bEnable) { return m_pGraphPrv->EnableZoom(bEnable); }
 int CGraph::EnableColumnReduction(BOOL bEnable) { return m_pGraphPrv->EnableColumnReduction(bEnable); }
 int CGraph::DisplayMenu(POINT* pPoint) { return m_pGraphPrv->DisplayMenu(pPoint); }
+HBITMAP CGraph::GetBitmap() { return m_pGraphPrv->GetBitmap(); }
+int CGraph::CopyToClipboard() { return m_pGraphPrv->CopyToClipboard(); }
 
 // Drawing
 int CGraph::ShowGrid(DWORD dwGridType) { return m_pGraphPrv->ShowGrid(dwGridType); }

@@ -133,6 +133,10 @@ public:
     int EnableColumnReduction(BOOL bEnable);
     // The context menu at a point in screen coordinates.
     int DisplayMenu(POINT* pPoint);
+    // The picture of the graph as a bitmap the caller owns (null when none
+    // could be made), or on the clipboard as CF_BITMAP.
+    HBITMAP GetBitmap();
+    int CopyToClipboard();
 
     // ---- Drawing --------------------------------------------------------------
     int ShowGrid(DWORD dwGridType);

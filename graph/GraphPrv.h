@@ -165,7 +165,9 @@ public:
     int ShowLegend();
     int ShowLegend(int bShow);
     int IsLegendVisible();
-    // The picture of the graph on the clipboard.
+    // The picture of the graph, painted afresh: a bitmap the caller owns
+    // (null when none could be made), or on the clipboard.
+    HBITMAP GetBitmap();
     int CopyToClipboard();
     // A floating label at the pointer, or at a point in screen coordinates.
     int AddFloatingLabel();

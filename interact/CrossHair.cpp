@@ -79,6 +79,16 @@ void CCrossHair::Move(int x, int y)
     m_ptLast = CPoint(x, y);
 }
 
+void CCrossHair::Repaint(CDC*, int, int, int, int)
+{
+    // Placeholder: the inverted lines are drawn into the context here.
+}
+
+void CCrossHair::PrintLabels(CDC*)
+{
+    // Placeholder: the read-out values are written into the context here.
+}
+
 void CCrossHair::Resize()
 {
     // Placeholder: the read-out windows follow the layout here; nothing

@@ -22,6 +22,10 @@ public:
     void Hide();
     // Follows the pointer, at a point in client coordinates.
     void Move(int x, int y);
+    // Draws the lines again inside a rectangle of a context, and the values
+    // as text: for a paint and for the graph's bitmap.
+    void Repaint(CDC* pDC, int nLeft, int nTop, int nRight, int nBottom);
+    void PrintLabels(CDC* pDC);
     // Follows a new layout of the graph: read-outs and lines are placed anew.
     void Resize();
 
