@@ -11,15 +11,17 @@ if [ -z "${DISPLAY:-}" ] && [ -z "${ZPX_IN_XVFB:-}" ]; then
     exec xvfb-run -a -s "-screen 0 1280x1024x24" "$0" "$@"
 fi
 
-# Under a display of our own, a Wine server left from another display would
-# keep the desktop window there, and menus made here would go astray: it is
-# stopped first. Then start a persistent server unless one runs already
-# (then it is someone else's, on this display, and it stays when we are done).
-if [ -n "${ZPX_IN_XVFB:-}" ] && pgrep -u "$(id -u)" wineserver >/dev/null 2>&1; then
+# Under a display of our own, a Wine server of this prefix left from another
+# display would keep the desktop window there, and menus made here would go
+# astray: it is stopped first. Then start a persistent server unless one runs
+# already (then it is someone else's, on this display, and it stays when we
+# are done). `wineserver -k0` only probes: it sends no signal, and it sees
+# the server of this prefix alone, so runs with other prefixes are left be.
+if [ -n "${ZPX_IN_XVFB:-}" ] && wineserver -k0 >/dev/null 2>&1; then
     wineserver -k >/dev/null 2>&1 || true
     wineserver -w >/dev/null 2>&1 || true
 fi
-if ! pgrep -u "$(id -u)" wineserver >/dev/null 2>&1; then
+if ! wineserver -k0 >/dev/null 2>&1; then
     wineserver -p
     trap 'wineserver -k >/dev/null 2>&1 || true' EXIT
 fi
