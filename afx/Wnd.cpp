@@ -557,6 +557,13 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     case AfxSig_lwl:
         lResult = (this->*reinterpret_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(pfn))(wParam, lParam);
         break;
+    case AfxSig_wp:
+        lResult = (this->*reinterpret_cast<UINT (CWnd::*)(CPoint)>(pfn))(
+            CPoint((short)LOWORD(lParam), (short)HIWORD(lParam)));
+        break;
+    case AfxSig_vMMI:
+        (this->*reinterpret_cast<void (CWnd::*)(MINMAXINFO*)>(pfn))((MINMAXINFO*)lParam);
+        break;
     default:
         return FALSE;
     }
@@ -650,6 +657,11 @@ void CWnd::OnPaint() { Default(); }
 BOOL CWnd::OnEraseBkgnd(CDC*) { return (BOOL)Default(); }
 void CWnd::OnSize(UINT, int, int) { Default(); }
 void CWnd::OnTimer(UINT_PTR) { Default(); }
+UINT CWnd::OnNcHitTest(CPoint) { return (UINT)Default(); }
+void CWnd::OnGetMinMaxInfo(MINMAXINFO*) { Default(); }
+void CWnd::OnNcLButtonDown(UINT, CPoint) { Default(); }
+void CWnd::OnNcLButtonUp(UINT, CPoint) { Default(); }
+void CWnd::OnNcMouseMove(UINT, CPoint) { Default(); }
 BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT) { return (BOOL)Default(); }
 void CWnd::OnMouseMove(UINT, CPoint) { Default(); }
 void CWnd::OnLButtonDown(UINT, CPoint) { Default(); }

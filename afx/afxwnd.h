@@ -45,6 +45,8 @@ enum AfxSig
     AfxSig_lwl,      // LRESULT (WPARAM, LPARAM)                ON_MESSAGE
     AfxSig_vNMHDRpl, // void (NMHDR*, LRESULT*)                 ON_NOTIFY
     AfxSig_vwv,      // void (UINT)                             command ranges
+    AfxSig_wp,       // UINT (CPoint)                           OnNcHitTest
+    AfxSig_vMMI,     // void (MINMAXINFO*)                      OnGetMinMaxInfo
 };
 
 struct AFX_MSGMAP_ENTRY
@@ -167,6 +169,11 @@ protected: \
 #define ON_WM_MOUSEWHEEL() _ON_WM(WM_MOUSEWHEEL, AfxSig_bwsp, BOOL (CWnd::*)(UINT, short, CPoint), OnMouseWheel)
 #define ON_WM_HSCROLL() _ON_WM(WM_HSCROLL, AfxSig_vwwW, void (CWnd::*)(UINT, UINT, CWnd*), OnHScroll)
 #define ON_WM_VSCROLL() _ON_WM(WM_VSCROLL, AfxSig_vwwW, void (CWnd::*)(UINT, UINT, CWnd*), OnVScroll)
+#define ON_WM_NCHITTEST() _ON_WM(WM_NCHITTEST, AfxSig_wp, UINT (CWnd::*)(CPoint), OnNcHitTest)
+#define ON_WM_GETMINMAXINFO() _ON_WM(WM_GETMINMAXINFO, AfxSig_vMMI, void (CWnd::*)(MINMAXINFO*), OnGetMinMaxInfo)
+#define ON_WM_NCLBUTTONDOWN() _ON_WM(WM_NCLBUTTONDOWN, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcLButtonDown)
+#define ON_WM_NCLBUTTONUP() _ON_WM(WM_NCLBUTTONUP, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcLButtonUp)
+#define ON_WM_NCMOUSEMOVE() _ON_WM(WM_NCMOUSEMOVE, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcMouseMove)
 #define ON_WM_CAPTURECHANGED() _ON_WM(WM_CAPTURECHANGED, AfxSig_vW, void (CWnd::*)(CWnd*), OnCaptureChanged)
 
 // ---------------------------------------------------------------------------
@@ -323,6 +330,12 @@ public:
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CWnd* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CWnd* pScrollBar);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    // Non-client messages: the point is in screen coordinates.
+    afx_msg UINT OnNcHitTest(CPoint point);
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
+    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcLButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point);
 
 protected:
     // Dispatches through the maps; FALSE when no entry handled the message.

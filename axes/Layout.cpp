@@ -123,6 +123,18 @@ int CGraphPrv::ReSizeGraph(CRect* pRect)
     return GRAPH_OK;
 }
 
+void CGraphPrv::LayOutInPlace()
+{
+    // The window keeps its place in its parent (a graph need not sit at the
+    // parent's origin); only the layout inside it is computed again.
+    CRect rect;
+    GetWindowRect(&rect);
+    HWND hParent = ::GetParent(m_hWnd);
+    if (hParent != NULL)
+        ::MapWindowPoints(NULL, hParent, (LPPOINT)&rect, 2);
+    ReSizeGraph(&rect);
+}
+
 int CGraphPrv::SizeGraph(CDC* pDC, int x, int y, int nWidth, int nHeight, int bRightAxis)
 {
     if (pDC == NULL)

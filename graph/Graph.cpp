@@ -138,6 +138,15 @@ int CGraph::EnableColumnReduction(BOOL bEnable) { return m_pGraphPrv->EnableColu
 int CGraph::DisplayMenu(POINT* pPoint) { return m_pGraphPrv->DisplayMenu(pPoint); }
 HBITMAP CGraph::GetBitmap() { return m_pGraphPrv->GetBitmap(); }
 int CGraph::CopyToClipboard() { return m_pGraphPrv->CopyToClipboard(); }
+int CGraph::ShowLegend() { return m_pGraphPrv->ShowLegend(); }
+int CGraph::ShowLegend(int bShow) { return m_pGraphPrv->ShowLegend(bShow); }
+int CGraph::IsLegendVisible() { return m_pGraphPrv->IsLegendVisible(); }
+int CGraph::DisplayCrossHair() { return m_pGraphPrv->DisplayCrossHair(); }
+int CGraph::DisplayCrossHair(int bShow) { return m_pGraphPrv->DisplayCrossHair(bShow); }
+int CGraph::IsCrossHairVisible() { return m_pGraphPrv->IsCrossHairVisible(); }
+int CGraph::IsCrossHairLocked() { return m_pGraphPrv->IsCrossHairLocked(); }
+int CGraph::LockCrossHair() { return m_pGraphPrv->LockCrossHair(); }
+int CGraph::LockCrossHair(int bLock) { return m_pGraphPrv->LockCrossHair(bLock); }
 
 // Drawing
 int CGraph::ShowGrid(DWORD dwGridType) { return m_pGraphPrv->ShowGrid(dwGridType); }

@@ -137,6 +137,17 @@ public:
     // could be made), or on the clipboard as CF_BITMAP.
     HBITMAP GetBitmap();
     int CopyToClipboard();
+    // The legend of the series: on, off, or the other way round.
+    int ShowLegend();
+    int ShowLegend(int bShow);
+    int IsLegendVisible();
+    // The cross hair and its lock: set, or toggled without an argument.
+    int DisplayCrossHair();
+    int DisplayCrossHair(int bShow);
+    int IsCrossHairVisible();
+    int IsCrossHairLocked();
+    int LockCrossHair();
+    int LockCrossHair(int bLock);
 
     // ---- Drawing --------------------------------------------------------------
     int ShowGrid(DWORD dwGridType);

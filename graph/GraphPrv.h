@@ -289,6 +289,9 @@ protected:
     void LayoutMargins(const TEXTMETRIC& tm, int nNumberWidth, BOOL bRightMargin, BOOL bFirstLayout);
     // Takes a shown, docked legend off m_rectGraph.
     void TakeOffLegend();
+    // ReSizeGraph over the window's present place: the layout after a change
+    // of font or legend.
+    void LayOutInPlace();
     int GetAveWidthOfNumericChar(CDC* pDC);
     CString GetMaxLenString();
     // The extent of one series, smaller values in the minimum fields.
@@ -364,6 +367,7 @@ private:
     // NotifyApplication. Tests reach the internals through one friend of theirs.
     friend class CGraph;
     friend class CEditLimit;
+    friend class CCrossHair;
     friend class CGraphTestAccess;
 
     // ---- axes/ (private) ----------------------------------------------------

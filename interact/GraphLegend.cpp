@@ -1,5 +1,6 @@
-// The graph's side of the legend: switching it on and off, and what a
-// docked legend takes from the graph's room.
+// The graph's side of the legend: switching it on and off, and following a
+// legend that moved or changed its size. A docked legend takes its room
+// from the graph in the layout.
 #include "graph/GraphPrv.h"
 
 int CGraphPrv::ShowLegend()
@@ -8,11 +9,9 @@ int CGraphPrv::ShowLegend()
     if (m_legend.IsShown())
         m_legend.Show(FALSE);
     else
-        m_legend.Show(TRUE);
+        ShowLegend(TRUE);
     if (m_hWnd != NULL) {
-        CRect rect;
-        GetClientRect(&rect);
-        ReSizeGraph(&rect);
+        LayOutInPlace();
         Replot();
     }
     return GRAPH_OK;
@@ -21,11 +20,9 @@ int CGraphPrv::ShowLegend()
 int CGraphPrv::ShowLegend(int bShow)
 {
     m_legend.Show(bShow);
-    // A legend that hides itself takes no room: the layout stays.
+    // A legend that hides itself lies over the plot: the layout stays.
     if (!m_legend.GetAutoHide() && m_hWnd != NULL) {
-        CRect rect;
-        GetClientRect(&rect);
-        ReSizeGraph(&rect);
+        LayOutInPlace();
         Replot();
     }
     return GRAPH_OK;
@@ -38,6 +35,9 @@ int CGraphPrv::IsLegendVisible()
 
 LRESULT CGraphPrv::OnLegendPosChange(WPARAM, LPARAM)
 {
-    // Placeholder: the graph follows a legend that moved or changed size here.
-    return 0;
+    if (m_hWnd != NULL) {
+        LayOutInPlace();
+        Replot();
+    }
+    return 1;
 }

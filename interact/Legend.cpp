@@ -1,7 +1,24 @@
 // CLegend: the list of series names beside the graph. The list is sorted by
-// name; each entry carries a CLegendData with the series' look.
+// name; each entry carries a CLegendData with the series' look and shows a
+// sample of it. Its own context menu docks it on a side. How it opens,
+// collapses and follows the graph's size is in LegendMotion.cpp.
 #include "interact/Legend.h"
+#include "afx/afxmenu.h"
 #include "graph/GraphDefs.h"
+#include "render/AnnotationMark.h"
+#include "render/DrawerPen.h"
+#include "resources/messages.h"
+#include "resources/resource.h"
+
+namespace {
+
+const int LEGEND_ITEM_HEIGHT = 20;   // every entry's height in pixels
+const int SAMPLE_LEFT = 5;           // the sample box, in item coordinates
+const int SAMPLE_RIGHT = 35;
+const int SAMPLE_MARK_X = 20;        // the mark stands in the middle of the box
+const int TEXT_LEFT = 40;            // the series name starts here
+
+} // namespace
 
 CLegendData::CLegendData()
     : m_crLine(0), m_nLineStyle(0), m_nLineWidth(1), m_nAnnotate(0), m_crBackground(0xFFFFFF)
@@ -9,7 +26,16 @@ CLegendData::CLegendData()
 }
 
 BEGIN_MESSAGE_MAP(CLegend, CListBox)
+    ON_WM_RBUTTONUP()
+    ON_WM_SIZE()
+    ON_WM_NCHITTEST()
+    ON_WM_TIMER()
     ON_WM_DESTROY()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_LBUTTONUP()
+    ON_WM_NCLBUTTONUP()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_NCMOUSEMOVE()
 END_MESSAGE_MAP()
 
 CLegend::CLegend()
@@ -26,31 +52,42 @@ CLegend::~CLegend()
 BOOL CLegend::Create(CWnd* pParent, int nPosition)
 {
     m_nPosition = nPosition;
+    CRect rectClient;
+    pParent->GetClientRect(&rectClient);
+    CRect rect = rectClient;
+    switch (m_nPosition) {
+    case LEGEND_TOP: rect.bottom = rect.top + m_nHeight; break;
+    case LEGEND_BOTTOM: rect.top = rect.bottom - m_nHeight; break;
+    case LEGEND_LEFT: rect.right = rect.left + m_nWidth; break;
+    default: rect.left = rect.right - m_nWidth; break;
+    }
     const DWORD dwStyle = WS_CHILD | WS_CLIPSIBLINGS | WS_VSCROLL | WS_THICKFRAME | LBS_SORT |
                           LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT;
-    return CreateEx(WS_EX_CLIENTEDGE | WS_EX_WINDOWEDGE, "ListBox", "Legend", dwStyle,
-                    0, 0, m_nWidth, m_nHeight, pParent->m_hWnd, (HMENU)0, NULL);
+    BOOL bCreated = CreateEx(WS_EX_CLIENTEDGE | WS_EX_WINDOWEDGE, "ListBox", "Legend", dwStyle, rect.left,
+                             rect.top, rect.Width(), rect.Height(), pParent->m_hWnd, (HMENU)0, NULL);
+    m_rectFull = rect;
+    return bCreated;
 }
 
-void CLegend::Show(BOOL bShow)
-{
-    m_bShown = bShow;
-    if (m_hWnd != NULL)
-        ShowWindow(bShow ? SW_SHOW : SW_HIDE);
-}
-
-void CLegend::Reposition() {}
+// ---- Entries -----------------------------------------------------------------
 
 BOOL CLegend::AddEntry(CString strName, COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground)
 {
-    CLegendData* pData = new CLegendData;
+    CLegendData* pData = NULL;
+    try {
+        pData = new CLegendData;
+    } catch (CMemoryException* e) {
+        // The series stays without an entry; the host is not told.
+        e->Delete();
+        return FALSE;
+    }
     pData->m_crLine = crLine;
     pData->m_nLineStyle = nLineStyle;
     pData->m_nLineWidth = nLineWidth;
     pData->m_nAnnotate = nAnnotate;
     pData->m_crBackground = crBackground;
     int nIndex = AddString(strName);
-    if (nIndex < 0) {
+    if (nIndex == LB_ERR || nIndex == LB_ERRSPACE) {
         delete pData;
         return FALSE;
     }
@@ -76,15 +113,16 @@ BOOL CLegend::RemoveEntry(CString strName)
     if (nIndex < 0)
         return FALSE;
     // The entry leaves the list before its look is freed: the list may be
-    // drawing it on its own thread.
+    // drawing it meanwhile.
     CLegendData* pLook = (CLegendData*)GetItemDataPtr(nIndex);
-    DeleteString((UINT)nIndex);
+    int nResult = DeleteString((UINT)nIndex);
     delete pLook;
-    return TRUE;
+    return nResult != LB_ERR;
 }
 
 BOOL CLegend::UpdateEntry(CString strName, COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground)
 {
+    // The new look shows at the list's next paint.
     int nIndex = FindEntry(strName);
     if (nIndex < 0)
         return FALSE;
@@ -94,7 +132,6 @@ BOOL CLegend::UpdateEntry(CString strName, COLORREF crLine, int nLineStyle, int 
     pData->m_nLineWidth = nLineWidth;
     pData->m_nAnnotate = nAnnotate;
     pData->m_crBackground = crBackground;
-    Invalidate();
     return TRUE;
 }
 
@@ -102,7 +139,10 @@ void CLegend::FreeEntries()
 {
     if (m_hWnd == NULL)
         return;
-    for (int i = GetCount() - 1; i >= 0; i--) {
+    int nCount = GetCount();
+    if (nCount == LB_ERR)
+        return;
+    for (int i = nCount - 1; i >= 0; i--) {
         delete (CLegendData*)GetItemDataPtr(i);
         SetItemDataPtr(i, NULL);
     }
@@ -112,4 +152,121 @@ void CLegend::OnDestroy()
 {
     FreeEntries();
     CListBox::OnDestroy();
+}
+
+// ---- Drawing -----------------------------------------------------------------
+
+void CLegend::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct)
+{
+    lpMeasureItemStruct->itemHeight = LEGEND_ITEM_HEIGHT;
+}
+
+void CLegend::DrawItem(LPDRAWITEMSTRUCT lpDIS)
+{
+    // The list shows neither a selection nor the focus.
+    if (lpDIS->itemAction & (ODA_SELECT | ODA_FOCUS))
+        return;
+    if (lpDIS->itemID == (UINT)-1 || lpDIS->itemData == 0)
+        return;
+
+    CDC dc;   // borrows the list's context
+    dc.Attach(lpDIS->hDC);
+    CDC* pDC = &dc;
+    CSaveDCGuard saved(pDC);
+    const CRect r(lpDIS->rcItem);
+    CBrush brushWindow;
+    brushWindow.CreateSolidBrush(::GetSysColor(COLOR_WINDOW));
+    CSelectGuard selectBrush(pDC, &brushWindow);
+
+    CString strName;
+    GetText((int)lpDIS->itemID, strName);
+    pDC->PatBlt(r.left, r.top, r.Width(), r.Height(), PATCOPY);
+    pDC->SelectStockObject(DEFAULT_GUI_FONT);
+
+    if (lpDIS->itemData != (ULONG_PTR)-1) {
+        const CLegendData* pLook = (const CLegendData*)lpDIS->itemData;
+        CRect rectBox(SAMPLE_LEFT, r.top + 2, SAMPLE_RIGHT, r.bottom - 2);
+        CBrush brushFrame;
+        brushFrame.CreateSolidBrush(0);
+        pDC->FrameRect(&rectBox, &brushFrame);
+        rectBox.DeflateRect(1, 1);
+        pDC->FillSolidRect(&rectBox, pLook->m_crBackground);
+
+        const int m = (rectBox.top + rectBox.bottom) / 2;
+        pDC->SetBkMode(OPAQUE);
+        {
+            CDrawerPen pen(pLook->m_nLineStyle, pLook->m_nLineWidth, pLook->m_crLine);
+            CSelectGuard selectPen(pDC, &pen);
+            pDC->MoveTo(SAMPLE_LEFT + 1, m);
+            pDC->LineTo(SAMPLE_RIGHT - 1, m);
+        }
+        if (pLook->m_nAnnotate != 0) {
+            CDrawerPen penMark(PS_SOLID, 1, pLook->m_crLine);
+            CBrush brushMark;
+            brushMark.CreateSolidBrush(pLook->m_crLine);
+            CSelectGuard selectPen(pDC, &penMark);
+            CSelectGuard selectMarkBrush(pDC, &brushMark);
+            DrawAnnotationMark(pDC, SAMPLE_MARK_X, m, pLook->m_nAnnotate);
+        }
+    }
+
+    pDC->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    pDC->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    TEXTMETRIC tm;
+    pDC->GetTextMetrics(&tm);
+    pDC->TextOut(r.left + TEXT_LEFT, r.top + (r.Height() - tm.tmHeight) / 2, strName);
+}
+
+// ---- Menu and commands -------------------------------------------------------
+
+void CLegend::OnRButtonUp(UINT, CPoint point)
+{
+    CMenu menu;
+    if (!menu.LoadMenu(IDR_LEGEND_MENU))
+        return;
+    CMenu* pPopup = menu.GetSubMenu(0);
+    if (pPopup == NULL)
+        return;
+    ClientToScreen(&point);
+
+    // The present side carries a radio check.
+    MENUITEMINFOA info;
+    ::ZeroMemory(&info, sizeof(info));
+    info.cbSize = sizeof(info);
+    info.fMask = MIIM_TYPE | MIIM_STATE;
+    char szText[64];
+    info.dwTypeData = szText;
+    info.cch = sizeof(szText);
+    const UINT nSideCommand = ID_GRAPH_LEGEND_TOP + (UINT)(m_nPosition - LEGEND_TOP);
+    if (::GetMenuItemInfoA(pPopup->GetSafeHmenu(), nSideCommand, FALSE, &info)) {
+        info.fType |= MFT_RADIOCHECK;
+        info.fState |= MFS_CHECKED;
+        ::SetMenuItemInfoA(pPopup->GetSafeHmenu(), nSideCommand, FALSE, &info);
+    }
+
+    // While the menu is up the legend stays open, wherever the pointer goes.
+    m_bInMenu = TRUE;
+    pPopup->TrackPopupMenu(TPM_RIGHTBUTTON, point.x, point.y, this);
+    m_bInMenu = FALSE;
+}
+
+BOOL CLegend::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    switch (LOWORD(wParam)) {
+    case ID_GRAPH_LEGEND_TOP: m_nPosition = LEGEND_TOP; break;
+    case ID_GRAPH_LEGEND_BOTTOM: m_nPosition = LEGEND_BOTTOM; break;
+    case ID_GRAPH_LEGEND_LEFT: m_nPosition = LEGEND_LEFT; break;
+    case ID_GRAPH_LEGEND_RIGHT: m_nPosition = LEGEND_RIGHT; break;
+    case ID_GRAPH_LEGEND_PROPERTIES: Options(); break;
+    }
+    // Every command, the present side too, lays the legend and the graph out.
+    Reposition();
+    if (IsWindowVisible())
+        ::SendMessageA(::GetParent(m_hWnd), WM_GRAPH_LEGENDPOSCHANGE, 0, 0);
+    return CListBox::OnCommand(wParam, lParam);
+}
+
+void CLegend::Options()
+{
+    // Placeholder: the legend's property sheet with its auto-hide page opens here.
 }

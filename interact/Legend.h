@@ -21,8 +21,11 @@ public:
     CLegend();
     virtual ~CLegend();
 
-    // Creates the (hidden) list window on a side: LEGEND_TOP, LEGEND_BOTTOM, LEGEND_LEFT or LEGEND_RIGHT.
+    // Creates the (hidden) list window on a side: LEGEND_TOP, LEGEND_BOTTOM,
+    // LEGEND_LEFT or LEGEND_RIGHT, over the open rectangle of that side.
     BOOL Create(CWnd* pParent, int nPosition);
+    // On: the window opens at its side (and slides away at once when it
+    // hides itself). Off: the window goes.
     void Show(BOOL bShow);
     BOOL IsShown() const { return m_bShown; }
     BOOL GetAutoHide() const { return m_bAutoHide; }
@@ -31,7 +34,13 @@ public:
     BOOL AddEntry(CString strName, COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground);
     BOOL RemoveEntry(CString strName);
     BOOL UpdateEntry(CString strName, COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground);
+    // Follows the parent's size: the open rectangle of the side anew, and the
+    // window there (or at its sliver while collapsed).
     void Reposition();
+
+    // Collapses to the sliver at the side (auto-hide only) and opens again.
+    void HideAway();
+    void Unhide();
 
     int m_nPosition;     // side of the graph
     CRect m_rectFull;    // the open rectangle, in the graph's client coordinates
@@ -46,10 +55,33 @@ public:
     // Index of the entry of a series, -1 if none; names compare exactly.
     int FindEntry(const CString& strName) const;
 
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+    virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+
 protected:
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg UINT OnNcHitTest(CPoint point);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnDestroy();
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnNcLButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
+    // The open rectangle and the sliver of the present side, from the
+    // parent's client rectangle.
+    CRect OpenRect() const;
+    CRect SliverRect() const;
+    // The window's rectangle in the parent's client coordinates.
+    CRect RectInParent() const;
+    // Moves the window to rcTarget over a fixed time.
+    void Slide(const CRect& rcTarget);
+    // The legend's own property sheet; it comes with the sheet's pages.
+    void Options();
     void FreeEntries();
 };

@@ -25,12 +25,7 @@ int CGraphPrv::SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText)
     m_font.CreatePointFontIndirect(&m_logFont, NULL);
 
     if (m_hWnd != NULL) {
-        CRect rect;
-        GetWindowRect(&rect);
-        CWnd* pParent = GetParent();
-        if (pParent != NULL)
-            pParent->ScreenToClient(&rect);
-        ReSizeGraph(&rect);
+        LayOutInPlace();
     } else {
         // A windowless graph is laid out again over the area it has, for the
         // screen; its owner lays it out for its own context before drawing.

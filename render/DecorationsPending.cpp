@@ -16,11 +16,6 @@ void CGraphPrv::DrawFloatingLabel(CDC*)
     // Placeholder: the floating labels draw here.
 }
 
-void CGraphPrv::RedrawOverlays(CDC*, const CRect&)
-{
-    // Placeholder: cross hair and marker line are inverted again here.
-}
-
 int CPlotData::DrawPointHighlights(CDC*, CGraphPrv*)
 {
     // Placeholder: the point highlights draw here.

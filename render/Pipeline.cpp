@@ -42,6 +42,13 @@ void CGraphPrv::OnPaint()
     ::SetCursor(hOldCursor);
 }
 
+void CGraphPrv::RedrawOverlays(CDC* pDC, const CRect& rectDirty)
+{
+    // The paint wiped what was inverted inside rectDirty, and only that.
+    m_crossHair.Repaint(pDC, rectDirty.left, rectDirty.top, rectDirty.right, rectDirty.bottom);
+    // Placeholder: the marker line is inverted again here.
+}
+
 int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
 {
     if (pDC == NULL)

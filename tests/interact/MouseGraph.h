@@ -75,6 +75,15 @@ public:
         Send(WM_LBUTTONDOWN, pt, MK_LBUTTON);
         Send(WM_LBUTTONUP, pt);
     }
+    // Dispatches this thread's messages for nMs milliseconds of the clock.
+    static void PumpFor(DWORD nMs)
+    {
+        const DWORD t0 = ::GetTickCount();
+        while (::GetTickCount() - t0 < nMs) {
+            TestHost::Pump();
+            ::Sleep(5);
+        }
+    }
     std::string Limits()
     {
         double d[6];
@@ -98,14 +107,16 @@ public:
 // Reads the popup menu that is up from a thread timer inside its modal
 // loop: each entry as "text|id" with " checked", " grayed" added, "-" for a
 // separator and ">text" for a sub-menu, then chooses the entry of the
-// mnemonic cChoose, or closes the menu with Escape when it is 0.
+// mnemonic cChoose, or closes the menu with Escape when it is 0. With
+// nHoldTicks the menu stays up that many more ticks of 30 ms first.
 class MenuReader
 {
 public:
-    explicit MenuReader(char cChoose = 0)
+    explicit MenuReader(char cChoose = 0, int nHoldTicks = 0)
     {
         s_pThis = this;
         m_cChoose = cChoose;
+        m_nHold = nHoldTicks;
         m_nTimer = ::SetTimer(NULL, 0, 30, OnTimer);
     }
     ~MenuReader()
@@ -139,6 +150,8 @@ private:
         if (s_pThis == NULL || hPopup == NULL || !::IsWindowVisible(hPopup))
             return;
         MenuReader& r = *s_pThis;
+        if (r.m_nHold-- > 0)
+            return;
         r.m_hMenu = (HMENU)::SendMessageA(hPopup, MN_GETHMENU, 0, 0);
         r.m_items.clear();
         for (int i = 0; i < ::GetMenuItemCount(r.m_hMenu); i++) {
@@ -157,6 +170,7 @@ private:
 
     static MenuReader* s_pThis;
     char m_cChoose;
+    int m_nHold;
     UINT_PTR m_nTimer;
 };
 
