@@ -16,9 +16,10 @@ void CGraphPrv::DrawFloatingLabel(CDC*)
     // Placeholder: the floating labels draw here.
 }
 
-void CGraphPrv::RedrawOverlays(CDC*, const CRect&)
+void CGraphPrv::RedrawOverlays(CDC* pDC, const CRect& rectDirty)
 {
-    // Placeholder: cross hair and marker line are inverted again here.
+    // Placeholder: the cross hair is inverted again here.
+    RedrawMarkerLine(pDC, rectDirty);
 }
 
 int CPlotData::DrawPointHighlights(CDC*, CGraphPrv*)
