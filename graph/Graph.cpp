@@ -133,6 +133,15 @@ int CGraph::AddPropertyPage(CPropertyPage* pPage, DWORD dwId) { return m_pGraphP
 int CGraph::RemovePropertyPage(DWORD dwId) { return m_pGraphPrv->RemovePropertyPage(dwId); }
 int CGraph::SetPropertyPageConfiguration(long lConfig) { return m_pGraphPrv->SetPropertyPageConfiguration(lConfig); }
 int CGraph::EnableNotifications(CGraphNotify* pNotify, long lMask) { return m_pGraphPrv->EnableNotifications(pNotify, lMask); }
+int CGraph::AddMarkerLine(CWnd* pWnd, long lStyle, const CString& strSeries, double* pdPos1, double* pdPos2,
+                          BOOL bContinuous)
+    { return m_pGraphPrv->AddMarkerLine(pWnd, lStyle, strSeries, pdPos1, pdPos2, bContinuous); }
+int CGraph::RemoveMarkerLine() { return m_pGraphPrv->RemoveMarkerLine(); }
+int CGraph::IsMarkerLineEnabled() { return m_pGraphPrv->IsMarkerLineEnabled(); }
+int CGraph::SetMarkerLinePos(long nLine, double* pdPos) { return m_pGraphPrv->SetMarkerLinePos(nLine, pdPos); }
+int CGraph::GetMarkerLinePos(double& dPos1, double& dPos2) { return m_pGraphPrv->GetMarkerLinePos(dPos1, dPos2); }
+int CGraph::GetMarkerLineStyle(long& lStyle, CString& strSeries)
+    { return m_pGraphPrv->GetMarkerLineStyle(lStyle, strSeries); }
 int CGraph::EnableZoom(int bEnable) { return m_pGraphPrv->EnableZoom(bEnable); }
 int CGraph::EnableColumnReduction(BOOL bEnable) { return m_pGraphPrv->EnableColumnReduction(bEnable); }
 int CGraph::DisplayMenu(POINT* pPoint) { return m_pGraphPrv->DisplayMenu(pPoint); }

@@ -126,6 +126,15 @@ public:
     int RemovePropertyPage(DWORD dwId);
     int SetPropertyPageConfiguration(long lConfig);
     int EnableNotifications(CGraphNotify* pNotify, long lMask);
+    // The marker line: one or two lines the user drags (ML_ bits), told to
+    // the host through its variables and WM_GRAPH_MARKER1MOVED/2MOVED.
+    int AddMarkerLine(CWnd* pWnd, long lStyle, const CString& strSeries, double* pdPos1, double* pdPos2,
+                      BOOL bContinuous);
+    int RemoveMarkerLine();
+    int IsMarkerLineEnabled();
+    int SetMarkerLinePos(long nLine, double* pdPos);
+    int GetMarkerLinePos(double& dPos1, double& dPos2);
+    int GetMarkerLineStyle(long& lStyle, CString& strSeries);
     // Rubber-band zoom with the left button in the plot (on by default).
     int EnableZoom(int bEnable);
     // Lines of a solid pen one pixel wide go to the device reduced per pixel

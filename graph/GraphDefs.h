@@ -53,6 +53,12 @@
 #define GN_LDBLCLK            0x1000  // WM_LBUTTONDBLCLK
 #define GN_EVENTS             0x0FC3  // the bits that open the gate of all event codes
 
+// ---- Style of a marker line (AddMarkerLine) --------------------------------
+#define ML_SINGLE             0x01    // one line
+#define ML_DOUBLE             0x02    // two lines; wins over ML_SINGLE
+#define ML_HORIZONTAL         0x08    // horizontal lines on a Y axis; else vertical, on a series
+#define ML_RIGHTAXIS          0x10    // with ML_HORIZONTAL: on the right Y axis, else the left
+
 // ---- Axes scaled to the data (radar flags) ---------------------------------
 #define RADAR_X               0x01    // the X axis
 #define RADAR_YLEFT           0x02    // the left Y axis

@@ -181,6 +181,7 @@ void CGraphPrv::DestroyOwnedTools()
 {
     RemoveAllReferenceLines();
     RemoveAllFloatingLabels();
+    RemoveMarkerLine();
 }
 
 void CGraphPrv::OnDestroy()

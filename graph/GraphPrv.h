@@ -174,6 +174,22 @@ public:
     int AddFloatingLabel(CPoint ptScreen);
     // The property sheet with the configured pages and the host's.
     int Properties(CString& strCaption);
+    // The marker line: one or two lines the user drags, vertical on a series
+    // (snapped to its X samples) or horizontal on a Y axis (ML_ bits); the
+    // host hears through its variables and WM_GRAPH_MARKER1MOVED/2MOVED.
+    int AddMarkerLine(CWnd* pWnd, long lStyle, const CString& strSeries, double* pdPos1, double* pdPos2,
+                      BOOL bContinuous);
+    int RemoveMarkerLine();
+    int IsMarkerLineEnabled();
+    int SetMarkerLinePos(long nLine, double* pdPos);
+    int GetMarkerLinePos(double& dPos1, double& dPos2);
+    int GetMarkerLineStyle(long& lStyle, CString& strSeries);
+    // The value tip beside a dragged line: nMode 2 under the plot, 0 left of
+    // it, 1 right of it.
+    void DisplayMLValue(int nMode, int nPixel, double dValue);
+    // After a paint of the plot: the marker's lines inverted again inside
+    // rectDirty, their pixels taken anew from their data positions.
+    void RedrawMarkerLine(CDC* pDC, const CRect& rectDirty);
 
     // ---- render/: the plot pipeline and drawers -----------------------------
     int AddReferenceLine(CString strName, DWORD dwFlags, double dPosition);
@@ -415,6 +431,14 @@ private:
     // The marker line under the mouse, and the end of its value tip.
     void MoveMarkerLine(long nFlags, CPoint point);
     void EndDisplayingMLValue();
+    // The X sample of the marker's series nearest to x, by arithmetic on
+    // evenly spaced samples.
+    float FindNearestPoint(CMarkerLine* pLine, double x);
+    // One inverted marker line across rect at nPixel: nOrient 2 horizontal,
+    // 1 vertical; nothing when nPixel lies outside rect.
+    void InvertMarkerLine(int nPixel, const CRect& rect, int nOrient);
+    // The pixel of a data position on the marker's axis: y on a Y axis, x on X.
+    int MarkerLinePixel(double dPos);
     // A press on a floating label selects it (TRUE); DropLabelSelection
     // deletes the tracker and deselects the label.
     BOOL SelectLabelAt(CPoint point);

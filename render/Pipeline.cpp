@@ -46,7 +46,7 @@ void CGraphPrv::RedrawOverlays(CDC* pDC, const CRect& rectDirty)
 {
     // The paint wiped what was inverted inside rectDirty, and only that.
     m_crossHair.Repaint(pDC, rectDirty.left, rectDirty.top, rectDirty.right, rectDirty.bottom);
-    // Placeholder: the marker line is inverted again here.
+    RedrawMarkerLine(pDC, rectDirty);
 }
 
 int CGraphPrv::Plot(CDC* pDC, int bPointsOnly)
