@@ -1,15 +1,8 @@
-// Placeholders until the series decorations, the floating labels and the
-// inverted tools draw: point highlights, shaded areas, floating labels,
-// cross hair and marker line after a paint. Each piece's own code replaces
-// its function here. Every placeholder of the library is marked
-// "Placeholder:" where it stands.
+// Placeholders until the floating labels and the inverted tools draw:
+// floating labels, cross hair and marker line after a paint. Each piece's
+// own code replaces its function here. Every placeholder of the library is
+// marked "Placeholder:" where it stands.
 #include "graph/GraphPrv.h"
-#include "series/PlotData.h"
-
-void CGraphPrv::PlotAreas(CDC*)
-{
-    // Placeholder: the area shading draws here.
-}
 
 void CGraphPrv::DrawFloatingLabel(CDC*)
 {
@@ -19,10 +12,4 @@ void CGraphPrv::DrawFloatingLabel(CDC*)
 void CGraphPrv::RedrawOverlays(CDC*, const CRect&)
 {
     // Placeholder: cross hair and marker line are inverted again here.
-}
-
-int CPlotData::DrawPointHighlights(CDC*, CGraphPrv*)
-{
-    // Placeholder: the point highlights draw here.
-    return GRAPH_OK;
 }
