@@ -1,7 +1,7 @@
-// Shaded areas and highlights: the list operations and their statuses,
-// areas painted over the series on colour, black-and-white and scaled
-// contexts, the brushes an area keeps, a region's pen, and point highlights
-// inverted on a graph window by each paint.
+// Shaded areas and highlights: the list operations and their statuses, areas
+// painted over the series on colour, black-and-white and scaled contexts,
+// the brushes an area keeps, a region's pen, and point highlights inverted
+// on a graph window by each paint.
 #include "Surface.h"
 #include "render/AnnotationMark.h"
 #include "render/AreaData.h"
@@ -10,42 +10,29 @@ namespace {
 
 const COLORREF TEAL = RGB(0, 200, 200);
 
-std::vector<float> Xs()
-{
-    return { 0.1f, 0.2f, 0.3f, 0.4f, 0.5f, 0.6f, 0.7f, 0.8f, 0.9f };
-}
-std::vector<float> Flat(float fY)
-{
-    return std::vector<float>(9, fY);
-}
+std::vector<float> Xs() { return { 0.1f, 0.2f, 0.3f, 0.4f, 0.5f, 0.6f, 0.7f, 0.8f, 0.9f }; }
+std::vector<float> Flat(float fY) { return std::vector<float>(9, fY); }
 
-// The identifiers of a series' areas, or the first indices of its regions, in list order.
-std::string AreaIds(CPlotData* pData)
+// The areas of a series as "id:start-end ", then its regions likewise, in list order.
+std::string Lists(CPlotData* pData)
 {
     std::string str;
-    for (POSITION pos = pData->m_listAreas.GetHeadPosition(); pos != NULL;)
-        str += Str("%d ", pData->m_listAreas.GetNext(pos)->m_nAreaId);
-    return str;
-}
-std::string RegionStarts(CPlotData* pData)
-{
-    std::string str;
+    for (POSITION pos = pData->m_listAreas.GetHeadPosition(); pos != NULL;) {
+        CAreaData* p = pData->m_listAreas.GetNext(pos);
+        str += Str("%d:%ld-%ld ", p->m_nAreaId, p->m_lStart, p->m_lEnd);
+    }
     for (POSITION pos = pData->m_listHighlights.GetHeadPosition(); pos != NULL;) {
         CHighlightRegionData* p = pData->m_listHighlights.GetNext(pos);
-        str += Str("%d:%ld-%ld ", p->m_nRegionId, p->m_lStart, p->m_lEnd);
+        str += Str("r%d:%ld-%ld ", p->m_nRegionId, p->m_lStart, p->m_lEnd);
     }
     return str;
 }
 
-// The plot of a 9-point series "a" at Y 5 in blue and "b" at Y 2 in magenta,
-// with the single area given on "a".
+// Series "a" at Y 5 in blue and "b" at Y 2 in magenta, 9 points each; Paint
+// draws them with one area on "a".
 struct AreaPlot : PlotFixture
 {
-    AreaPlot()
-    {
-        Add("a", Xs(), Flat(5.0f), BLUE);
-        Add("b", Xs(), Flat(2.0f), MAGENTA);
-    }
+    AreaPlot() { Add("a", Xs(), Flat(5.0f), BLUE), Add("b", Xs(), Flat(2.0f), MAGENTA); }
     void Paint(long lStart, long lEnd, int nBase, int nBrush = AREA_BRUSH_SOLID)
     {
         m_graph.RemoveAllAreaData("a");
@@ -53,15 +40,9 @@ struct AreaPlot : PlotFixture
         m_dib.Fill(CANVAS);
         Plot();
     }
-    // Pixels of colour cr in the data box x1..x2 by y1..y2 (left axis).
-    int CountIn(double x1, double x2, double y1, double y2, COLORREF cr)
-    {
-        return m_dib.Count(Px(x1, 0).x, Px(0, y2).y, Px(x2, 0).x, Px(0, y1).y, cr);
-    }
-    int BoxArea(double x1, double x2, double y1, double y2)
-    {
-        return (Px(x2, 0).x - Px(x1, 0).x) * (Px(0, y1).y - Px(0, y2).y);
-    }
+    // Pixels of colour cr in the data box X 0.32 to 0.58, Y 1 to 4.8 (inside "a"'s stretch 2 to 5).
+    int InBox(COLORREF cr) { return m_dib.Count(Px(0.32, 0).x, Px(0, 4.8).y, Px(0.58, 0).x, Px(0, 1.0).y, cr); }
+    int Box() { return (Px(0.58, 0).x - Px(0.32, 0).x) * (Px(0, 1.0).y - Px(0, 4.8).y); }
 };
 
 } // namespace
@@ -71,43 +52,37 @@ TEST(AreaShading, OperationsKeepOneAreaPerIdAndReportUnknownSeriesAndIds)
     PlotFixture f;
     CPlotData* pData = f.Add("s", Xs(), Flat(5.0f), BLUE);
     CGraph& g = f.m_graph;
-    EXPECT_EQ(GRAPH_NOSERIES, g.AddAreaData("none", 1, 0, 1, 1, TEAL, AREA_BRUSH_SOLID));
-    EXPECT_EQ(GRAPH_NOSERIES, g.UpdateAreaData("none", 1, 0, 1, 1, TEAL, AREA_BRUSH_SOLID));
-    EXPECT_TRUE(GRAPH_NOSERIES == g.RemoveAreaData("none", 1, 0, 1) && GRAPH_NOSERIES == g.RemoveAllAreaData("none"));
+    EXPECT_TRUE(GRAPH_NOSERIES == g.AddAreaData("none", 1, 0, 1, 1, TEAL, 4) &&
+                GRAPH_NOSERIES == g.UpdateAreaData("none", 1, 0, 1, 1, TEAL, 4) &&
+                GRAPH_NOSERIES == g.RemoveAreaData("none", 1, 0, 1) && GRAPH_NOSERIES == g.RemoveAllAreaData("none"));
     EXPECT_EQ(GRAPH_OK, g.AddAreaData("s", 1, 50, 10, 1, TEAL, HS_CROSS));
     EXPECT_EQ(GRAPH_OK, g.AddAreaData("s", 2, 0, 1, 1, TEAL, AREA_BRUSH_SOLID));
-    CAreaData* pFirst = pData->m_listAreas.GetHead();
-    EXPECT_TRUE(10 == pFirst->m_lStart && 50 == pFirst->m_lEnd);
-    // The same identifier again: one area, the new values, its old place.
-    EXPECT_EQ(GRAPH_OK, g.AddAreaData("s", 1, 3, 4, 2, MAGENTA, AREA_BRUSH_SOLID));
-    EXPECT_EQ("1 2 ", AreaIds(pData));
-    EXPECT_TRUE(3 == pFirst->m_lStart && 4 == pFirst->m_lEnd && 2 == pFirst->m_nBaseMode && MAGENTA == pFirst->m_crArea);
+    EXPECT_EQ(GRAPH_OK, g.AddAreaData("s", 1, 3, 4, 2, MAGENTA, AREA_BRUSH_SOLID));   // in place
     EXPECT_EQ(GRAPH_NOAREA, g.UpdateAreaData("s", 7, 0, 1, 1, TEAL, AREA_BRUSH_SOLID));
-    EXPECT_TRUE(GRAPH_OK == g.UpdateAreaData("s", 2, 6, 5, 0, TEAL, 1) && 5 == pData->m_listAreas.GetTail()->m_lStart);
+    EXPECT_EQ(GRAPH_OK, g.UpdateAreaData("s", 2, 6, 5, 0, TEAL, HS_VERTICAL));
+    EXPECT_EQ("1:3-4 2:5-6 ", Lists(pData));
+    EXPECT_TRUE(2 == pData->m_listAreas.GetHead()->m_nBaseMode && MAGENTA == pData->m_listAreas.GetHead()->m_crArea);
     // An add fails at each of its allocations in turn (two brushes, the
     // record) and leaves the list and the GDI objects as they were.
     const LONG nLive = CGdiObject::GetLiveCount();
     const CString strSeries("s");
     int nFailures = 0;
-    for (int nAfter = 0; nAfter < 10; nAfter++) {
+    for (int nAfter = 0; nAfter < 10; nAfter++, nFailures++) {
         AfxSetAllocFailure(nAfter);
         const int nResult = g.AddAreaData(strSeries, 3, 0, 1, 1, TEAL, AREA_BRUSH_SOLID);
         AfxSetAllocFailure(-1);
         if (nResult == GRAPH_OK)
             break;
-        nFailures++;
-        EXPECT_EQ(GRAPH_NOMEMORY, nResult) << nAfter;
-        EXPECT_EQ("1 2 ", AreaIds(pData)) << nAfter;
+        EXPECT_TRUE(GRAPH_NOMEMORY == nResult && "1:3-4 2:5-6 " == Lists(pData)) << nAfter;
         EXPECT_EQ(nLive, CGdiObject::GetLiveCount()) << nAfter;
     }
     EXPECT_GE(nFailures, 3);
-    EXPECT_EQ("1 2 3 ", AreaIds(pData));
     // Removal goes by identifier alone.
     EXPECT_EQ(GRAPH_OK, g.RemoveAreaData("s", 1, 99, 99));
-    EXPECT_TRUE(GRAPH_NOAREA == g.RemoveAreaData("s", 1, 3, 4) && "2 3 " == AreaIds(pData));
+    EXPECT_TRUE(GRAPH_NOAREA == g.RemoveAreaData("s", 1, 3, 4) && "2:5-6 3:0-1 " == Lists(pData));
     EXPECT_TRUE(GRAPH_OK == g.RemoveAllAreaData("s") && pData->m_listAreas.IsEmpty());
 
-    // Hundreds of replacements keep the two brushes of the one area alive, no more.
+    // Hundreds of replacements, painted now and then, keep the two brushes of the one area alive, no more.
     const LONG nBefore = CGdiObject::GetLiveCount();
     for (int i = 0; i < 300; i++) {
         g.AddAreaData("s", 9, 1, 7, 1, TEAL, i % 2 ? AREA_BRUSH_SOLID : HS_DIAGCROSS);
@@ -124,7 +99,7 @@ TEST(AreaShading, AreasLieOverAllSeriesAndCloseAsTheirBaseModeSays)
     AreaPlot f;
     // Base line at 0 under X 0.3 to 0.6: over both lines, nothing above the curve.
     f.Paint(2, 5, AREA_BASE_ZERO);
-    EXPECT_EQ(f.BoxArea(0.32, 0.58, 1.0, 4.8), f.CountIn(0.32, 0.58, 1.0, 4.8, TEAL));
+    EXPECT_EQ(f.Box(), f.InBox(TEAL));
     EXPECT_TRUE(TEAL == f.AtData(0.45, 5.0) && BACKGROUND == f.AtData(0.45, 5.5));
     EXPECT_TRUE(MAGENTA == f.AtData(0.2, 2.0) && BLUE == f.AtData(0.7, 5.0));
     // Base line at 100, far above the top: from the curve upward. A mode of 3 acts as 1.
@@ -155,23 +130,19 @@ TEST(AreaShading, AHatchShowsWhatLiesUnderItAndStaysAHatchInBlack)
     f.DC()->SetBkMode(OPAQUE);
     f.DC()->SetBkColor(RGB(1, 2, 3));
     f.Paint(2, 5, AREA_BASE_ZERO, HS_CROSS);
-    const int nBox = f.BoxArea(0.32, 0.58, 1.0, 4.8), nTeal = f.CountIn(0.32, 0.58, 1.0, 4.8, TEAL);
-    const int nMagenta = f.CountIn(0.32, 0.58, 1.0, 4.8, MAGENTA);
+    const int nBox = f.Box(), nTeal = f.InBox(TEAL), nMagenta = f.InBox(MAGENTA);
     EXPECT_TRUE(nTeal > nBox / 20 && nTeal < nBox / 2) << nTeal;
     EXPECT_GT(nMagenta, 0);   // the line of "b" in the gaps
-    EXPECT_EQ(nBox, nTeal + nMagenta + f.CountIn(0.32, 0.58, 1.0, 4.8, BACKGROUND));
+    EXPECT_EQ(nBox, nTeal + nMagenta + f.InBox(BACKGROUND));
     EXPECT_EQ(OPAQUE, f.DC()->GetBkMode());
-
     // A printout with WINDING fill mode: the hatch in black, a solid area all black.
     f.DC()->SetPrinting(TRUE);
     ::SetPolyFillMode(f.DC()->m_hDC, WINDING);
     f.Paint(2, 5, AREA_BASE_ZERO, HS_CROSS);
-    const int nBlack = f.CountIn(0.32, 0.58, 1.0, 4.8, BLACK);
-    EXPECT_TRUE(nBlack > nBox / 20 && nBlack < nBox / 2) << nBlack;
-    EXPECT_EQ(nBox, nBlack + f.CountIn(0.32, 0.58, 1.0, 4.8, WHITE));
+    const int nBlack = f.InBox(BLACK);
+    EXPECT_TRUE(nBlack > nBox / 20 && nBlack < nBox / 2 && nBox == nBlack + f.InBox(WHITE)) << nBlack;
     f.Paint(2, 5, AREA_BASE_ZERO);
-    EXPECT_EQ(nBox, f.CountIn(0.32, 0.58, 1.0, 4.8, BLACK));
-    EXPECT_EQ(WHITE, f.AtData(0.45, 7.0));
+    EXPECT_TRUE(nBox == f.InBox(BLACK) && WHITE == f.AtData(0.45, 7.0));
     f.DC()->SetPrinting(FALSE);
 }
 
@@ -203,22 +174,20 @@ TEST(Highlights, RegionsKeepTheirOrderAndDrawInTheSeriesWidth)
 {
     PlotFixture f;
     std::vector<float> x, y;   // a rising diagonal of 91 distinct pixels
-    for (int i = 0; i <= 90; i++) {
-        x.push_back(0.05f + 0.01f * i);
-        y.push_back(0.5f + 0.1f * i);
-    }
+    for (int i = 0; i <= 90; i++)
+        x.push_back(0.05f + 0.01f * i), y.push_back(0.5f + 0.1f * i);
     CPlotData* pData = f.Add("d", x, y, BLUE);
     CGraph& g = f.m_graph;
-    EXPECT_EQ(GRAPH_NOSERIES, g.AddHighlightRegion("none", 1, 0, 1, TEAL, PS_SOLID));
-    EXPECT_TRUE(GRAPH_NOSERIES == g.RemoveHighlightRegion("none", 1) && GRAPH_NOSERIES == g.RemoveAllHighlightRegions("none"));
+    EXPECT_TRUE(GRAPH_NOSERIES == g.AddHighlightRegion("none", 1, 0, 1, TEAL, PS_SOLID) &&
+                GRAPH_NOSERIES == g.RemoveHighlightRegion("none", 1) && GRAPH_NOSERIES == g.RemoveAllHighlightRegions("none"));
     EXPECT_EQ(GRAPH_NOREGION, g.RemoveHighlightRegion("d", 1));
     EXPECT_EQ(GRAPH_OK, g.AddHighlightRegion("d", 1, 1000, 50, TEAL, PS_SOLID));   // end limited to the last point
     EXPECT_EQ(GRAPH_OK, g.AddHighlightRegion("d", 2, 20, 30, MAGENTA, PS_SOLID));  // earlier: inserted before
     EXPECT_EQ(GRAPH_OK, g.AddHighlightRegion("d", 3, 50, 60, TEAL, PS_SOLID));     // equal start: after the older
-    EXPECT_EQ("2:20-30 1:50-90 3:50-60 ", RegionStarts(pData));
+    EXPECT_EQ("r2:20-30 r1:50-90 r3:50-60 ", Lists(pData));
     EXPECT_TRUE(GRAPH_OK == g.RemoveHighlightRegion("d", 3) && GRAPH_NOREGION == g.RemoveHighlightRegion("d", 3));
     g.AddHighlightRegion("d", 2, 70, 80, MAGENTA, PS_SOLID);   // changed in place, out of order
-    EXPECT_EQ("2:70-80 1:50-90 ", RegionStarts(pData));
+    EXPECT_EQ("r2:70-80 r1:50-90 ", Lists(pData));
     g.AddHighlightRegion("d", 2, 20, 30, MAGENTA, PS_SOLID);
     pData->m_nLineWidth = 3;
     f.Plot();
@@ -231,28 +200,21 @@ TEST(Highlights, RegionsKeepTheirOrderAndDrawInTheSeriesWidth)
 
 TEST(Highlights, PointHighlightsAreInvertedOnTheWindowAgainByEachPaint)
 {
-    TestHost host(800, 600);
-    CGraph g;
-    CRect rect(0, 0, 400, 300);
-    g.CreateGraph(host.Wnd(), NULL, rect, 0, 1, 63);
+    GraphInHost h;
+    CGraph& g = h.m_graph;
     g.SetXAxisLimits(0, 9);
     g.SetYAxisLimits(0, 10, 0);
     float x[2] = { 0, 9 }, y[2] = { 1, 1 };
     g.AddPlotData("w", PLOT_YLEFT, x, y, 2, BLUE, PS_SOLID, 0);
-    g.ShowGraph();
-    TestHost::Pump();
+    h.Show();
     auto pixel = [&](double dx, double dy) {
-        CClientDC dc(g.m_pGraphPrv);
+        CClientDC dc(h.Prv());
         return dc.GetPixel(g.DataToPixelX(dx), g.DataToPixelY(dy, 0));
     };
-    auto repaint = [&] {
-        g.Replot();
-        ::UpdateWindow(g.m_pGraphPrv->m_hWnd);
-    };
+    auto repaint = [&] { g.Replot(), ::UpdateWindow(h.Prv()->m_hWnd); };
     EXPECT_TRUE(GRAPH_NOSERIES == g.AddPlotDataHighlight("none", "h", 2, 5, MARK_SQUARE) &&
                 GRAPH_NOSERIES == g.RemovePlotDataHighlight("none", "h") && GRAPH_NOSERIES == g.RemoveAllPlotDataHighlights("none"));
-    EXPECT_EQ(GRAPH_OK, g.AddPlotDataHighlight("w", "h", 2, 5, MARK_SQUARE));
-    EXPECT_EQ(GRAPH_OK, g.RemovePlotDataHighlight("w", "unknown"));
+    EXPECT_TRUE(GRAPH_OK == g.AddPlotDataHighlight("w", "h", 2, 5, MARK_SQUARE) && GRAPH_OK == g.RemovePlotDataHighlight("w", "x"));
     repaint();
     EXPECT_EQ(BLACK, pixel(2, 5));   // white inverted
     // A direct mark comes at once and goes with a second call; mark 10 and a
