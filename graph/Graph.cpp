@@ -180,3 +180,23 @@ int CGraph::AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int n
 int CGraph::AnnotateLine(CString& strName, int nMark, int nStep) { return m_pGraphPrv->AnnotateLine(strName, nMark, nStep); }
 int CGraph::LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC)
     { return m_pGraphPrv->LabelPoint(dX, dY, nYAxis, crColor, nMark, strText, pDC); }
+int CGraph::AddAreaData(const CString& strName, short nId, long lStart, long lEnd, int nBaseMode, DWORD crColor,
+                        int nBrushStyle)
+    { return m_pGraphPrv->AddAreaData(strName, nId, lStart, lEnd, nBaseMode, crColor, nBrushStyle); }
+int CGraph::UpdateAreaData(const CString& strName, short nId, long lStart, long lEnd, int nBaseMode, DWORD crColor,
+                           int nBrushStyle)
+    { return m_pGraphPrv->UpdateAreaData(strName, nId, lStart, lEnd, nBaseMode, crColor, nBrushStyle); }
+int CGraph::RemoveAreaData(const CString& strName, short nId, long lStart, long lEnd)
+    { return m_pGraphPrv->RemoveAreaData(strName, nId, lStart, lEnd); }
+int CGraph::RemoveAllAreaData(const CString& strName) { return m_pGraphPrv->RemoveAllAreaData(strName); }
+int CGraph::AddHighlightRegion(const CString& strName, short nId, long lStart, long lEnd, DWORD crColor, int nStyle)
+    { return m_pGraphPrv->AddHighlightRegion(strName, nId, lStart, lEnd, crColor, nStyle); }
+int CGraph::RemoveHighlightRegion(const CString& strName, short nId) { return m_pGraphPrv->RemoveHighlightRegion(strName, nId); }
+int CGraph::RemoveAllHighlightRegions(const CString& strName) { return m_pGraphPrv->RemoveAllHighlightRegions(strName); }
+int CGraph::HighlightPoint(double dX, double dY, int nYAxis, int nMark)
+    { return m_pGraphPrv->HighlightPoint(dX, dY, nYAxis, nMark); }
+int CGraph::AddPlotDataHighlight(const CString& strName, const CString& strHighlight, double dX, double dY, int nMark)
+    { return m_pGraphPrv->AddPlotDataHighlight(strName, strHighlight, dX, dY, nMark); }
+int CGraph::RemovePlotDataHighlight(const CString& strName, const CString& strHighlight)
+    { return m_pGraphPrv->RemovePlotDataHighlight(strName, strHighlight); }
+int CGraph::RemoveAllPlotDataHighlights(const CString& strName) { return m_pGraphPrv->RemoveAllPlotDataHighlights(strName); }

@@ -173,6 +173,20 @@ public:
     int AnnotatePoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark);
     int AnnotateLine(CString& strName, int nMark, int nStep);
     int LabelPoint(double dX, double dY, int nYAxis, DWORD crColor, int nMark, const CString& strText, CDC* pDC);
+    // Shaded areas and highlights of a series; HighlightPoint inverts a mark on the window at once.
+    int AddAreaData(const CString& strName, short nId, long lStart, long lEnd, int nBaseMode, DWORD crColor,
+                    int nBrushStyle);
+    int UpdateAreaData(const CString& strName, short nId, long lStart, long lEnd, int nBaseMode, DWORD crColor,
+                       int nBrushStyle);
+    int RemoveAreaData(const CString& strName, short nId, long lStart, long lEnd);
+    int RemoveAllAreaData(const CString& strName);
+    int AddHighlightRegion(const CString& strName, short nId, long lStart, long lEnd, DWORD crColor, int nStyle);
+    int RemoveHighlightRegion(const CString& strName, short nId);
+    int RemoveAllHighlightRegions(const CString& strName);
+    int HighlightPoint(double dX, double dY, int nYAxis, int nMark);
+    int AddPlotDataHighlight(const CString& strName, const CString& strHighlight, double dX, double dY, int nMark);
+    int RemovePlotDataHighlight(const CString& strName, const CString& strHighlight);
+    int RemoveAllPlotDataHighlights(const CString& strName);
 
     CGraphPrv* m_pGraphPrv;   // the implementation, made here, destroyed here, never replaced
 

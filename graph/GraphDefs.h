@@ -122,3 +122,9 @@
 #define GM_LEGEND             0x08    // "legend" stays
 #define GM_RADAR              0x10    // "scale to the data" stays
 #define GM_RESERVED20         0x20    // part of the default 63; nothing tests it
+
+// ---- Shaded areas (AddAreaData) --------------------------------------------
+#define AREA_BASE_CURVE       0       // the curve alone, closed from its last point back to its first
+#define AREA_BASE_ZERO        1       // down to a base line at Y = 0.0; so does every other positive value
+#define AREA_BASE_HUNDRED     2       // to a base line at Y = 100.0
+#define AREA_BRUSH_SOLID      10      // a solid fill; any other brush style is a hatch index (HS_)

@@ -21,6 +21,7 @@
 #include "persist/LineColor.h"
 
 class CPlotData;
+class CAreaData;
 class CRefLineData;
 class CFloatingLabel;
 class CMarkerLine;
@@ -249,6 +250,23 @@ public:
     void AnnotatePlotData(CDC* pDC, CPlotData* pPlotData);
     // All shaded areas of all series.
     void PlotAreas(CDC* pDC);
+    // Shaded areas of a series, by the host's identifier; none repaints.
+    int AddAreaData(const CString& strName, short nId, long lStart, long lEnd, int nBaseMode, DWORD crColor,
+                    int nBrushStyle);
+    int UpdateAreaData(const CString& strName, short nId, long lStart, long lEnd, int nBaseMode, DWORD crColor,
+                       int nBrushStyle);
+    int RemoveAreaData(const CString& strName, short nId, long lStart, long lEnd);
+    int RemoveAllAreaData(const CString& strName);
+    // Highlight regions of a series, kept in order of their first point; none repaints.
+    int AddHighlightRegion(const CString& strName, short nId, long lStart, long lEnd, DWORD crColor, int nStyle);
+    int RemoveHighlightRegion(const CString& strName, short nId);
+    int RemoveAllHighlightRegions(const CString& strName);
+    // A mark inverted on the window at once (a second call takes it away),
+    // and the point highlights a series remembers and each paint inverts again.
+    int HighlightPoint(double dX, double dY, int nYAxis, int nMark);
+    int AddPlotDataHighlight(const CString& strName, const CString& strHighlight, double dX, double dY, int nMark);
+    int RemovePlotDataHighlight(const CString& strName, const CString& strHighlight);
+    int RemoveAllPlotDataHighlights(const CString& strName);
     // Every floating label, then the tracker of the selected one.
     void DrawFloatingLabel(CDC* pDC);
     // After a paint of the plot: the cross hair and the marker line inverted
@@ -449,6 +467,9 @@ private:
     // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when
     // some part is visible. dwFlags gets CLIP_MOVED_FIRST / CLIP_MOVED_SECOND.
     int ClipDrawLine(const CRect& rect, POINT& pt1, POINT& pt2, DWORD& dwFlags);
+    // One shaded area, its pixels in pPoints (m_lPoints + 2 entries of the
+    // series); 1, or 0 when memory ran out.
+    int ShadeArea(CDC* pDC, CAreaData* pArea, POINT* pPoints, CPlotData* pPlotData);
 
 public:
     // ---- Fields, in declaration order ---------------------------------------

@@ -1,23 +1,9 @@
-// Placeholders until the series decorations, the floating labels and the
-// inverted tools draw: point highlights, shaded areas, floating labels,
-// cross hair and marker line after a paint. Each piece's own code replaces
-// its function here. Every placeholder of the library is marked
-// "Placeholder:" where it stands.
+// Placeholder until the floating labels draw: their code replaces this
+// file. Every placeholder of the library is marked "Placeholder:" where it
+// stands.
 #include "graph/GraphPrv.h"
-#include "series/PlotData.h"
-
-void CGraphPrv::PlotAreas(CDC*)
-{
-    // Placeholder: the area shading draws here.
-}
 
 void CGraphPrv::DrawFloatingLabel(CDC*)
 {
     // Placeholder: the floating labels draw here.
-}
-
-int CPlotData::DrawPointHighlights(CDC*, CGraphPrv*)
-{
-    // Placeholder: the point highlights draw here.
-    return GRAPH_OK;
 }
