@@ -7,6 +7,15 @@
 #include <algorithm>
 #include <vector>
 
+// The colour of a pixel of a window as it stands.
+inline COLORREF WindowPixel(HWND hWnd, CPoint pt)
+{
+    HDC hDC = ::GetDC(hWnd);
+    COLORREF cr = ::GetPixel(hDC, pt.x, pt.y);
+    ::ReleaseDC(hWnd, hDC);
+    return cr;
+}
+
 // Records every notification as a line: "mouse 201 x,y", "event 64",
 // "command 14750", "context x,y", with the graph's id checked on the way.
 class RecordingSink : public CGraphNotify

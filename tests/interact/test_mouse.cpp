@@ -6,19 +6,9 @@
 
 namespace {
 
-
 std::vector<std::string> Lines(std::initializer_list<std::string> lines)
 {
     return std::vector<std::string>(lines);
-}
-
-// The colour of a pixel of the window as it stands.
-COLORREF WindowPixel(HWND hWnd, CPoint pt)
-{
-    HDC hDC = ::GetDC(hWnd);
-    COLORREF cr = ::GetPixel(hDC, pt.x, pt.y);
-    ::ReleaseDC(hWnd, hDC);
-    return cr;
 }
 
 // No capture and no confinement of the pointer left behind.
