@@ -245,42 +245,6 @@ TEST(Layout, ReSizeGraphTooLowAndTooNarrow)
     ExpectPlot(p, CRect(0, (3 * m.L) / 2, rect.Width() - 1, 300 - (5 * m.L) / 2 - 1));
 }
 
-TEST(Layout, ReSizeGraphTakesOffTheDockedLegend)
-{
-    GraphInHost g;
-    CGraphPrv* p = g.Prv();
-    const FontMeasures m = MeasureOn(p->m_hWnd, p);
-    ASSERT_TRUE(p->m_legend.m_hWnd != NULL);
-    CRect rect(0, 0, 400, 300), rectLegend;
-    ::GetWindowRect(p->m_legend.m_hWnd, &rectLegend);
-    ASSERT_FALSE(rectLegend.IsRectEmpty());
-
-    // No legend shown: the whole client area.
-    p->m_legend.m_bShown = FALSE;
-    g.m_graph.ReSizeGraph(&rect);
-    EXPECT_EQ(rect, p->m_rectGraph);
-
-    // Shown, docked: its window's width or height comes off its side.
-    p->m_legend.m_bShown = TRUE;
-    p->m_legend.m_bAutoHide = FALSE;
-    const CRect expected[4] = { CRect(0, rectLegend.Height(), 400, 300), CRect(0, 0, 400, 300 - rectLegend.Height()),
-                                CRect(rectLegend.Width(), 0, 400, 300), CRect(0, 0, 400 - rectLegend.Width(), 300) };
-    for (int nPosition = 1; nPosition <= 4; nPosition++) {
-        p->m_legend.m_nPosition = nPosition;
-        g.m_graph.ReSizeGraph(&rect);
-        EXPECT_EQ(expected[nPosition - 1], p->m_rectGraph) << nPosition;
-        ExpectPlot(p, ExpectedPlot(expected[nPosition - 1], m, m.S));
-        CRect rectReported;
-        g.m_graph.GetGraphClientRect(&rectReported);
-        EXPECT_EQ(expected[nPosition - 1], rectReported);
-    }
-    // In auto-hide the legend lies over the plot: the layout ignores it.
-    p->m_legend.m_bAutoHide = TRUE;
-    g.m_graph.ReSizeGraph(&rect);
-    EXPECT_EQ(rect, p->m_rectGraph);
-    p->m_legend.m_bShown = FALSE;
-}
-
 TEST(Layout, SizeGraphOnMemoryContext)
 {
     GraphInHost g;
