@@ -1,22 +1,29 @@
 // graphdemo: a host program of ZPXGraph. It opens a top-level window with one
 // graph child showing several series on both Y axes (one of a million
 // points, one of ten million drawn per pixel column), with marks and point
-// labels, reference lines, a grid and titles.
+// labels, reference lines, a grid and titles, shaded and hatched areas, a
+// highlighted stretch, point highlights, the legend at the right and a pair
+// of marker lines whose positions the host shows in its title bar.
 // The user zooms with the left button, scales back with a double click,
-// edits a limit by clicking it, and has the context menu on the right
-// button, where the host has put an entry of its own ("Reset view"). Every
-// notification the host hears is printed.
+// edits a limit by clicking it, drags the marker lines, and has the context
+// menu on the right button (with the cross hair, the legend, the copy, and
+// an entry of the host's own, "Reset view"). Every notification the host
+// hears is printed.
 //
 //   graphdemo.exe               the window, until the user closes it
 //   graphdemo.exe --headless    drives the same window with real messages
 //                               (a zoom, a double click, a limit typed into
 //                               its box, the menu's scaling entry), prints
 //                               the limits after each step, writes the
-//                               zoomed graph as a picture file, and exits
+//                               zoomed graph as a picture file; then opens
+//                               the legend, drags a marker line, locks the
+//                               cross hair, writes the graph's own bitmap and
+//                               a capture of the window, and exits
 //   --english                   looks for the English resource satellite
 #include "graph/Graph.h"
 #include "graph/GraphPrv.h"
 #include "render/AnnotationMark.h"
+#include "resources/messages.h"
 #include <math.h>
 #include <stdarg.h>
 #include <stdio.h>
@@ -28,6 +35,9 @@ namespace {
 
 const int kGraphId = 100;
 const UINT kResetViewId = 40001;   // the host's own entry of the context menu
+
+// The host's variables of the two marker lines: the graph writes them.
+double g_dMarker1 = 2.0, g_dMarker2 = 4.0;
 
 // Prints what the host hears. Moves are only counted: there are many.
 class PrintingSink : public CGraphNotify
@@ -156,6 +166,23 @@ void SetUpGraph(CGraph& graph, DemoData& data)
     graph.SetGridAttributes(GRID_MINOR | GRID_BOTHWAYS, RGB(128, 128, 128), PS_DOT);
     graph.AddReferenceLine("t = 5", REFLINE_VERTICAL, 5.0);
     graph.AddReferenceLine("zero", REFLINE_HORIZONTAL, 0.0);
+
+    // The wave's first second shaded down to zero; the staircase's middle
+    // hatched down to the level 100; a stretch of the noise in a pen of its
+    // own; two corners of the staircase highlighted.
+    graph.AddAreaData("damped wave", 1, 0, 100000, AREA_BASE_ZERO, RGB(170, 200, 255), AREA_BRUSH_SOLID);
+    graph.AddAreaData("level", 2, 8, 23, AREA_BASE_HUNDRED, RGB(200, 0, 0), HS_BDIAGONAL);
+    graph.AddHighlightRegion("noise", 1, 240, 300, RGB(255, 0, 255), PS_SOLID);
+    graph.AddPlotDataHighlight("level", "rise", data.stepX[7], data.stepY[7], MARK_SQUARE);
+    graph.AddPlotDataHighlight("level", "fall", data.stepX[23], data.stepY[23], MARK_SQUARE);
+}
+
+void ShowMarkers(HWND hFrame)
+{
+    char sz[160];
+    _snprintf(sz, sizeof(sz) - 1, "ZPXGraph demo - markers at t = %.3f and t = %.3f", g_dMarker1, g_dMarker2);
+    sz[sizeof(sz) - 1] = '\0';
+    ::SetWindowTextA(hFrame, sz);
 }
 
 LRESULT CALLBACK FrameProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
@@ -178,6 +205,12 @@ LRESULT CALLBACK FrameProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
             return 0;
         }
         break;
+    case WM_GRAPH_MARKER1MOVED:
+    case WM_GRAPH_MARKER2MOVED:
+        printf("  host: marker %d moved; markers at %.3f and %.3f\n", nMsg == WM_GRAPH_MARKER1MOVED ? 1 : 2,
+               g_dMarker1, g_dMarker2);
+        ShowMarkers(hWnd);
+        return 0;
     case WM_DESTROY:
         ::PostQuitMessage(0);
         return 0;
@@ -201,6 +234,39 @@ HWND CreateFrame(int nWidth, int nHeight)
                              CW_USEDEFAULT, CW_USEDEFAULT, nWidth, nHeight, NULL, NULL, wc.hInstance, NULL);
 }
 
+// A 32-bit copy of nWidth x nHeight pixels of hSource from (x, y).
+HBITMAP CopyToDib(HDC hSource, int x, int y, int nWidth, int nHeight)
+{
+    BITMAPINFO bmi;
+    memset(&bmi, 0, sizeof(bmi));
+    bmi.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    bmi.bmiHeader.biWidth = nWidth;
+    bmi.bmiHeader.biHeight = -nHeight;
+    bmi.bmiHeader.biPlanes = 1;
+    bmi.bmiHeader.biBitCount = 32;
+    void* pBits = NULL;
+    HBITMAP hDib = ::CreateDIBSection(NULL, &bmi, DIB_RGB_COLORS, &pBits, NULL, 0);
+    HDC hDC = ::CreateCompatibleDC(NULL);
+    HGDIOBJ hOld = ::SelectObject(hDC, hDib);
+    ::BitBlt(hDC, 0, 0, nWidth, nHeight, hSource, x, y, SRCCOPY);
+    ::SelectObject(hDC, hOld);
+    ::DeleteDC(hDC);
+    return hDib;
+}
+
+// Writes a 32-bit bitmap to a picture file named pszName, and says where.
+int WriteNamedPicture(HBITMAP hDib, const char* pszName, const char* pszWhat)
+{
+    char szPath[MAX_PATH];
+    ::GetFullPathNameA(pszName, MAX_PATH, szPath, NULL);
+    if (!WritePictureFile(hDib, szPath, sizeof(szPath))) {
+        printf("graphdemo: could not write %s\n", pszName);
+        return 1;
+    }
+    printf("graphdemo: %s written to %s\n", pszWhat, szPath);
+    return 0;
+}
+
 // Writes what the graph shows, laid out as in its window, to a picture file.
 int WriteGraphPicture(CGraph& graph, int nWidth, int nHeight)
 {
@@ -220,17 +286,10 @@ int WriteGraphPicture(CGraph& graph, int nWidth, int nHeight)
     graph.SizeGraph(&dc, 0, 0, nWidth, nHeight, TRUE);
     int nResult = graph.Plot(&dc, FALSE);
     dc.SelectObject(hOld);
-
-    char szPath[MAX_PATH];
-    ::GetFullPathNameA("graphdemo.png", MAX_PATH, szPath, NULL);
-    BOOL bWritten = WritePictureFile(hBitmap, szPath, sizeof(szPath));
+    printf("graphdemo: Plot returned %d\n", nResult);
+    const int nWritten = WriteNamedPicture(hBitmap, "graphdemo.png", "the zoomed graph");
     ::DeleteObject(hBitmap);
-    if (!bWritten) {
-        printf("graphdemo: could not write the picture\n");
-        return 1;
-    }
-    printf("graphdemo: Plot returned %d; picture written to %s\n", nResult, szPath);
-    return 0;
+    return nWritten;
 }
 
 // Chooses an entry of the popup menu that is up, by its mnemonic, from a
@@ -253,6 +312,105 @@ void Pump()
         ::TranslateMessage(&msg);
         ::DispatchMessageA(&msg);
     }
+}
+
+// Dispatches messages for nMs milliseconds: the legend's timers run.
+void PumpFor(DWORD nMs)
+{
+    const DWORD t0 = ::GetTickCount();
+    while (::GetTickCount() - t0 < nMs) {
+        Pump();
+        ::Sleep(5);
+    }
+}
+
+// The legend, the marker lines and the cross hair, driven as a user would;
+// then the graph's own bitmap (with the locked cross hair) and a capture of
+// the host window (the legend, marker lines and point highlights stand on
+// the window only).
+int DriveTools(CGraph& graph, HWND hFrame)
+{
+    HWND hGraph = graph.m_pGraphPrv->m_hWnd;
+    auto send = [hGraph](UINT nMessage, CPoint pt, UINT nFlags) {
+        ::SendMessageA(hGraph, nMessage, nFlags, MAKELPARAM(pt.x, pt.y));
+    };
+    auto park = [](HWND hWnd, CPoint pt) {
+        ::ClientToScreen(hWnd, &pt);
+        ::SetCursorPos(pt.x, pt.y);
+        return pt;
+    };
+    RECT rcGraph;
+    ::GetClientRect(hGraph, &rcGraph);
+    // The picture file laid the graph out for a context: the window's layout again.
+    CRect rectWindow(8, 8, 8 + rcGraph.right, 8 + rcGraph.bottom);
+    graph.ReSizeGraph(&rectWindow);
+    ResetView(graph);
+    graph.Replot();
+    ::UpdateWindow(hGraph);
+    CRect r;
+    graph.GetPlotRect(r);
+
+    printf("the pointer rests on the legend's sliver at the right\n");
+    HWND hLegend = ::FindWindowExA(hGraph, NULL, "ListBox", "Legend");
+    auto restOnLegend = [hLegend]() {
+        CRect rect;
+        ::GetWindowRect(hLegend, &rect);
+        const CPoint pt = rect.CenterPoint();
+        ::SetCursorPos(pt.x, pt.y);
+        ::SendMessageA(hLegend, WM_NCHITTEST, 0, MAKELPARAM(pt.x, pt.y));
+        PumpFor(400);
+    };
+    restOnLegend();
+    printf("legend: %s\n", graph.m_pGraphPrv->m_legend.m_bHidden ? "still collapsed" : "open");
+
+    printf("drag marker line 1 from t = %.3f to t = 3\n", g_dMarker1);
+    const CPoint a(graph.DataToPixelX(g_dMarker1), r.CenterPoint().y), b(graph.DataToPixelX(3.0), a.y);
+    park(hGraph, a);
+    send(WM_MOUSEMOVE, a, 0);
+    send(WM_LBUTTONDOWN, a, MK_LBUTTON);
+    send(WM_MOUSEMOVE, CPoint((a.x + b.x) / 2, a.y), MK_LBUTTON);
+    send(WM_MOUSEMOVE, b, MK_LBUTTON);
+    send(WM_LBUTTONUP, b, 0);
+    Pump();
+
+    printf("the cross hair at t = 7, locked\n");
+    park(hGraph, CPoint(graph.DataToPixelX(7.0), graph.DataToPixelY(5.0, 0)));
+    graph.DisplayCrossHair(TRUE);
+    graph.LockCrossHair(TRUE);
+    Pump();
+
+    int nFailed = 0;
+    HBITMAP hBitmap = graph.GetBitmap();
+    if (hBitmap == NULL) {
+        printf("graphdemo: GetBitmap gave no bitmap\n");
+        return 1;
+    }
+    BITMAP bm;
+    ::GetObjectA(hBitmap, sizeof(bm), &bm);
+    HDC hMemory = ::CreateCompatibleDC(NULL);
+    HGDIOBJ hOld = ::SelectObject(hMemory, hBitmap);
+    HBITMAP hDib = CopyToDib(hMemory, 0, 0, bm.bmWidth, bm.bmHeight);
+    ::SelectObject(hMemory, hOld);
+    ::DeleteDC(hMemory);
+    ::DeleteObject(hBitmap);
+    nFailed += WriteNamedPicture(hDib, "graphdemo-bitmap.png", "the graph's bitmap (with the cross hair)");
+    ::DeleteObject(hDib);
+
+    // The bitmap's plot inverted the point highlights on the window, as any
+    // plot into memory does: a paint puts them back. The legend slid back
+    // meanwhile; it is opened again for the capture.
+    graph.Replot();
+    ::UpdateWindow(hGraph);
+    restOnLegend();
+    ::UpdateWindow(hFrame);
+    RECT rcFrame;
+    ::GetClientRect(hFrame, &rcFrame);
+    HDC hFrameDC = ::GetDC(hFrame);
+    hDib = CopyToDib(hFrameDC, 0, 0, rcFrame.right, rcFrame.bottom);
+    ::ReleaseDC(hFrame, hFrameDC);
+    nFailed += WriteNamedPicture(hDib, "graphdemo-window.png", "the window (legend, marker lines, highlights)");
+    ::DeleteObject(hDib);
+    return nFailed;
 }
 
 // Drives the graph window as a user would, with real messages, and prints
@@ -367,8 +525,13 @@ int main(int argc, char** argv)
         graph.ShowGraph();
         ::ShowWindow(hFrame, SW_SHOW);
         ::UpdateWindow(hFrame);
+        graph.ShowLegend(TRUE);
+        graph.AddMarkerLine(&frame, ML_DOUBLE, "noise", &g_dMarker1, &g_dMarker2, FALSE);
+        ShowMarkers(hFrame);
         if (bHeadless) {
             nExit = DriveHeadless(graph, sink);
+            if (nExit == 0)
+                nExit = DriveTools(graph, hFrame);
         } else {
             MSG msg;
             while (::GetMessageA(&msg, NULL, 0, 0) > 0) {

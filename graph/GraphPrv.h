@@ -264,6 +264,9 @@ public:
     // A mark inverted on the window at once (a second call takes it away),
     // and the point highlights a series remembers and each paint inverts again.
     int HighlightPoint(double dX, double dY, int nYAxis, int nMark);
+    // The inverted mark of a point highlight on a context of the window,
+    // clipped to the plot, in the size of a window context's default font.
+    void InvertMark(CDC* pDC, double dX, double dY, int nYAxis, int nMark);
     int AddPlotDataHighlight(const CString& strName, const CString& strHighlight, double dX, double dY, int nMark);
     int RemovePlotDataHighlight(const CString& strName, const CString& strHighlight);
     int RemoveAllPlotDataHighlights(const CString& strName);

@@ -124,10 +124,18 @@ void CCrossHair::DrawCross(int x, int y, const CRect& rect)
 {
     if (m_pGraph == NULL || m_pGraph->m_hWnd == NULL)
         return;
-    CClientDC dc(m_pGraph);
+    // The graph's children (the legend open over the plot, the read-outs)
+    // keep their own pixels: the strokes go on the graph alone.
+    HWND hWnd = m_pGraph->m_hWnd;
+    HDC hDC = ::GetDCEx(hWnd, NULL, DCX_CACHE | DCX_CLIPCHILDREN);
+    if (hDC == NULL)
+        return;
+    CDC dc;
+    dc.Attach(hDC);
     // The plot's frame at its left and top edge is spared.
     InvertStroke(&dc, rect.left + 1, y, rect.right, y);
     InvertStroke(&dc, x, rect.top + 1, x, rect.bottom);
+    ::ReleaseDC(hWnd, hDC);
 }
 
 void CCrossHair::MeasureLabels(CDC* pDC)

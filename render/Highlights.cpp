@@ -116,19 +116,26 @@ int CGraphPrv::HighlightPoint(double dX, double dY, int nYAxis, int nMark)
         return GRAPH_OK;   // a graph without a window has no screen to draw on
     try {
         // An inversion: the same call again at the same place restores the
-        // picture. No font is selected, so the mark takes the size of the
-        // window context's default font.
+        // picture.
         CClientDC dc(this);
-        CSaveDCGuard saveDC(&dc);
-        dc.SetROP2(R2_NOT);
-        CSelectGuard selectPen(&dc, ::GetStockObject(WHITE_PEN));
-        CSelectGuard selectBrush(&dc, ::GetStockObject(WHITE_BRUSH));
-        dc.IntersectClipRect(m_rectPlot.left, m_rectPlot.top, m_rectPlot.right + 1, m_rectPlot.bottom + 1);
-        Annotate(&dc, dX, dY, nYAxis, nMark);
+        InvertMark(&dc, dX, dY, nYAxis, nMark);
     } catch (CException* e) {
         e->Delete();   // no context for the window: nothing drawn
     }
     return GRAPH_OK;
+}
+
+void CGraphPrv::InvertMark(CDC* pDC, double dX, double dY, int nYAxis, int nMark)
+{
+    CSaveDCGuard saveDC(pDC);
+    pDC->SetROP2(R2_NOT);
+    CSelectGuard selectPen(pDC, ::GetStockObject(WHITE_PEN));
+    CSelectGuard selectBrush(pDC, ::GetStockObject(WHITE_BRUSH));
+    // A window context's own font sets the mark's size, whatever the
+    // context holds now.
+    CSelectGuard selectFont(pDC, ::GetStockObject(SYSTEM_FONT));
+    pDC->IntersectClipRect(m_rectPlot.left, m_rectPlot.top, m_rectPlot.right + 1, m_rectPlot.bottom + 1);
+    Annotate(pDC, dX, dY, nYAxis, nMark);
 }
 
 int CGraphPrv::AddPlotDataHighlight(const CString& strName, const CString& strHighlight, double dX, double dY,
@@ -161,12 +168,18 @@ int CGraphPrv::RemoveAllPlotDataHighlights(const CString& strName)
 
 int CPlotData::DrawPointHighlights(CDC* pDC, CGraphPrv* pGraph)
 {
-    // The marks go on the window through HighlightPoint's own context, not
-    // on pDC, inverting what the paint has drawn so far. A printout shows
-    // none of them.
+    // The marks go on the window, inverting what the paint has drawn so far;
+    // a printout shows none of them, nor does a picture in memory. A paint
+    // of the window inverts them on its own context, which holds only the
+    // part being painted: a mark outside it stands already and is left be.
     if (pDC->IsPrinting())
         return GRAPH_OK;
-    for (int i = 0; i < m_aPointHighlightNames.GetSize(); i++)
-        pGraph->HighlightPoint(m_aPointHighlightX[i], m_aPointHighlightY[i], m_nYAxis, m_aPointHighlightStyles[i]);
+    const BOOL bPaintingWindow = pGraph->m_hWnd != NULL && ::WindowFromDC(pDC->m_hDC) == pGraph->m_hWnd;
+    for (int i = 0; i < m_aPointHighlightNames.GetSize(); i++) {
+        if (bPaintingWindow)
+            pGraph->InvertMark(pDC, m_aPointHighlightX[i], m_aPointHighlightY[i], m_nYAxis, m_aPointHighlightStyles[i]);
+        else
+            pGraph->HighlightPoint(m_aPointHighlightX[i], m_aPointHighlightY[i], m_nYAxis, m_aPointHighlightStyles[i]);
+    }
     return GRAPH_OK;
 }

@@ -226,6 +226,11 @@ TEST(Highlights, PointHighlightsAreInvertedOnTheWindowAgainByEachPaint)
     g.HighlightPoint(6, 5, 0, MARK_SQUARE);
     repaint();
     EXPECT_TRUE(WHITE == pixel(6, 5) && BLACK == pixel(2, 5));
+    // A paint of another part of the plot leaves the listed mark standing.
+    const CPoint ptMark(g.DataToPixelX(2), g.DataToPixelY(5, 0));
+    ::RedrawWindow(h.Prv()->m_hWnd, CRect(ptMark.x + 40, ptMark.y - 10, ptMark.x + 60, ptMark.y + 10), NULL,
+                   RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(BLACK, pixel(2, 5));
     // A plot into a memory context inverts the listed marks on the window; a printout does not.
     Dib dib(400, 300);
     g.Plot(dib.DC(), 1);
