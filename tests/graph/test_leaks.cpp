@@ -1,12 +1,15 @@
 // Resources over many lives of a graph: memory and GDI objects come back to
-// where they were after thousands of create/destroy cycles with series.
+// where they were after thousands of create/destroy cycles with series and
+// the tools on them (cross hair, marker lines, areas, highlights, bitmaps).
 #include "TestUtil.h"
+#include "render/AnnotationMark.h"
 #include <vector>
 
 namespace {
 
-void OneLife(CWnd* pParent, bool bWindow, std::vector<float>& x, std::vector<double>& d)
+void OneLife(CWnd* pParent, bool bWindow, bool bTools, std::vector<float>& x, std::vector<double>& d)
 {
+    double dMarker1 = 0.2, dMarker2 = 0.6;   // outlive the graph that writes them
     CGraph graph;
     CRect rect(0, 0, 320, 240);
     graph.CreateGraph(pParent, NULL, rect, bWindow ? 0 : GS_NOWINDOW, 1, 63);
@@ -20,6 +23,16 @@ void OneLife(CWnd* pParent, bool bWindow, std::vector<float>& x, std::vector<dou
     graph.SetLogFont(&lf, 90, crText);
     double adX[2] = { 1, 2 };
     graph.UpdatePlotData("double", adX, adX, 0, 2);
+    graph.AddAreaData("float", 1, 0, 10, AREA_BASE_ZERO, 0xFF, HS_CROSS);
+    graph.AddAreaData("float", 1, 5, 20, AREA_BASE_HUNDRED, 0xFF, AREA_BRUSH_SOLID);
+    graph.AddPlotDataHighlight("float", "h", 1.0, 1.0, MARK_SQUARE);
+    if (bWindow && bTools) {
+        graph.ShowGraph();
+        graph.DisplayCrossHair(TRUE);
+        graph.DisplayCrossHair(FALSE);
+        graph.AddMarkerLine(pParent, ML_DOUBLE, "float", &dMarker1, &dMarker2, FALSE);
+        ::DeleteObject(graph.GetBitmap());
+    }
     if (!bWindow)
         graph.RemoveAllPlotData();   // without a window the host frees the series
 }
@@ -34,13 +47,13 @@ TEST(Leaks, ThousandsOfGraphLivesReturnMemoryAndGdiObjects)
 
     // Warm up: first-time allocations of the system and the run time.
     for (int i = 0; i < 50; i++)
-        OneLife(host.Wnd(), i % 2 == 0, x, d);
+        OneLife(host.Wnd(), i % 2 == 0, i % 10 == 0, x, d);
     TestHost::Pump();
 
     const LONG nGdiBefore = CGdiObject::GetLiveCount();
     const SIZE_T nBytesBefore = CommittedBytes();
     for (int i = 0; i < 2000; i++) {
-        OneLife(host.Wnd(), i % 2 == 0, x, d);
+        OneLife(host.Wnd(), i % 2 == 0, i % 10 == 0, x, d);
         if (i % 100 == 0)
             TestHost::Pump();
     }
