@@ -234,8 +234,8 @@ HWND CreateFrame(int nWidth, int nHeight)
                              CW_USEDEFAULT, CW_USEDEFAULT, nWidth, nHeight, NULL, NULL, wc.hInstance, NULL);
 }
 
-// A 32-bit copy of nWidth x nHeight pixels of hSource from (x, y).
-HBITMAP CopyToDib(HDC hSource, int x, int y, int nWidth, int nHeight)
+// A 32-bit top-down bitmap of nWidth x nHeight pixels.
+HBITMAP NewDib(int nWidth, int nHeight)
 {
     BITMAPINFO bmi;
     memset(&bmi, 0, sizeof(bmi));
@@ -245,7 +245,13 @@ HBITMAP CopyToDib(HDC hSource, int x, int y, int nWidth, int nHeight)
     bmi.bmiHeader.biPlanes = 1;
     bmi.bmiHeader.biBitCount = 32;
     void* pBits = NULL;
-    HBITMAP hDib = ::CreateDIBSection(NULL, &bmi, DIB_RGB_COLORS, &pBits, NULL, 0);
+    return ::CreateDIBSection(NULL, &bmi, DIB_RGB_COLORS, &pBits, NULL, 0);
+}
+
+// A 32-bit copy of nWidth x nHeight pixels of hSource from (x, y).
+HBITMAP CopyToDib(HDC hSource, int x, int y, int nWidth, int nHeight)
+{
+    HBITMAP hDib = NewDib(nWidth, nHeight);
     HDC hDC = ::CreateCompatibleDC(NULL);
     HGDIOBJ hOld = ::SelectObject(hDC, hDib);
     ::BitBlt(hDC, 0, 0, nWidth, nHeight, hSource, x, y, SRCCOPY);
@@ -270,15 +276,7 @@ int WriteNamedPicture(HBITMAP hDib, const char* pszName, const char* pszWhat)
 // Writes what the graph shows, laid out as in its window, to a picture file.
 int WriteGraphPicture(CGraph& graph, int nWidth, int nHeight)
 {
-    BITMAPINFO bmi;
-    memset(&bmi, 0, sizeof(bmi));
-    bmi.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-    bmi.bmiHeader.biWidth = nWidth;
-    bmi.bmiHeader.biHeight = -nHeight;
-    bmi.bmiHeader.biPlanes = 1;
-    bmi.bmiHeader.biBitCount = 32;
-    void* pBits = NULL;
-    HBITMAP hBitmap = ::CreateDIBSection(NULL, &bmi, DIB_RGB_COLORS, &pBits, NULL, 0);
+    HBITMAP hBitmap = NewDib(nWidth, nHeight);
     CDC dc;
     dc.CreateCompatibleDC(NULL);
     HGDIOBJ hOld = dc.SelectObject(hBitmap);

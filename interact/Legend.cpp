@@ -54,13 +54,7 @@ BOOL CLegend::Create(CWnd* pParent, int nPosition)
     m_nPosition = nPosition;
     CRect rectClient;
     pParent->GetClientRect(&rectClient);
-    CRect rect = rectClient;
-    switch (m_nPosition) {
-    case LEGEND_TOP: rect.bottom = rect.top + m_nHeight; break;
-    case LEGEND_BOTTOM: rect.top = rect.bottom - m_nHeight; break;
-    case LEGEND_LEFT: rect.right = rect.left + m_nWidth; break;
-    default: rect.left = rect.right - m_nWidth; break;
-    }
+    const CRect rect = OpenRect(rectClient);
     const DWORD dwStyle = WS_CHILD | WS_CLIPSIBLINGS | WS_VSCROLL | WS_THICKFRAME | LBS_SORT |
                           LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT;
     BOOL bCreated = CreateEx(WS_EX_CLIENTEDGE | WS_EX_WINDOWEDGE, "ListBox", "Legend", dwStyle, rect.left,

@@ -73,10 +73,16 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // The open rectangle and the sliver of the present side, from the
-    // parent's client rectangle.
+    // The strip of rect along the present side, nThickness pixels across.
+    CRect StripAtSide(CRect rect, int nThickness) const;
+    // The side is the top or the bottom: the legend spans the width.
+    BOOL IsAcross() const;
+    // The open rectangle of the present side in the parent's client
+    // rectangle (by default the present one), and the sliver of rect, nExtra
+    // pixels more than the frame.
+    CRect OpenRect(const CRect& rectClient) const;
     CRect OpenRect() const;
-    CRect SliverRect() const;
+    CRect SliverOf(const CRect& rect, int nExtra) const;
     // The window's rectangle in the parent's client coordinates.
     CRect RectInParent() const;
     // Moves the window to rcTarget over a fixed time.

@@ -31,32 +31,37 @@ BOOL PointerInside(const CWnd* pWnd)
 
 } // namespace
 
-CRect CLegend::OpenRect() const
+CRect CLegend::StripAtSide(CRect rect, int nThickness) const
 {
-    CRect rect;
-    ::GetClientRect(::GetParent(m_hWnd), &rect);
     switch (m_nPosition) {
-    case LEGEND_TOP: rect.bottom = rect.top + m_nHeight; break;
-    case LEGEND_BOTTOM: rect.top = rect.bottom - m_nHeight; break;
-    case LEGEND_LEFT: rect.right = rect.left + m_nWidth; break;
-    default: rect.left = rect.right - m_nWidth; break;
+    case LEGEND_TOP: rect.bottom = rect.top + nThickness; break;
+    case LEGEND_BOTTOM: rect.top = rect.bottom - nThickness; break;
+    case LEGEND_LEFT: rect.right = rect.left + nThickness; break;
+    default: rect.left = rect.right - nThickness; break;
     }
     return rect;
 }
 
-CRect CLegend::SliverRect() const
+BOOL CLegend::IsAcross() const
+{
+    return m_nPosition == LEGEND_TOP || m_nPosition == LEGEND_BOTTOM;
+}
+
+CRect CLegend::OpenRect(const CRect& rectClient) const
+{
+    return StripAtSide(rectClient, IsAcross() ? m_nHeight : m_nWidth);
+}
+
+CRect CLegend::OpenRect() const
 {
     CRect rect;
     ::GetClientRect(::GetParent(m_hWnd), &rect);
-    const int fx = ::GetSystemMetrics(SM_CXFRAME);
-    const int fy = ::GetSystemMetrics(SM_CYFRAME);
-    switch (m_nPosition) {
-    case LEGEND_TOP: rect.bottom = rect.top + fy; break;
-    case LEGEND_BOTTOM: rect.top = rect.bottom - fy; break;
-    case LEGEND_LEFT: rect.right = rect.left + fx; break;
-    default: rect.left = rect.right - fx; break;
-    }
-    return rect;
+    return OpenRect(rect);
+}
+
+CRect CLegend::SliverOf(const CRect& rect, int nExtra) const
+{
+    return StripAtSide(rect, ::GetSystemMetrics(IsAcross() ? SM_CYFRAME : SM_CXFRAME) + nExtra);
 }
 
 CRect CLegend::RectInParent() const
@@ -93,15 +98,10 @@ void CLegend::HideAway()
 {
     if (!m_bAutoHide || m_hWnd == NULL)
         return;
-    CRect rect = RectInParent();
-    const int fx = ::GetSystemMetrics(SM_CXFRAME);
-    const int fy = ::GetSystemMetrics(SM_CYFRAME);
-    switch (m_nPosition) {
-    case LEGEND_TOP: rect.bottom = rect.top + fy; break;
-    case LEGEND_BOTTOM: rect.top = rect.bottom - fy - 1; break;
-    case LEGEND_LEFT: rect.right = rect.left + fx; break;
-    default: rect.left = rect.right - fx - 1; break;
-    }
+    // The sliver at the bottom or the right keeps one pixel more than
+    // the one a new layout gives (Reposition).
+    const BOOL bFar = m_nPosition == LEGEND_BOTTOM || m_nPosition == LEGEND_RIGHT;
+    const CRect rect = SliverOf(RectInParent(), bFar ? 1 : 0);
     m_bHidden = TRUE;
     Slide(rect);
 }
@@ -150,8 +150,10 @@ void CLegend::Reposition()
 {
     if (m_hWnd == NULL)
         return;
-    m_rectFull = OpenRect();
-    const CRect rect = m_bHidden ? SliverRect() : m_rectFull;
+    CRect rectClient;
+    ::GetClientRect(::GetParent(m_hWnd), &rectClient);
+    m_rectFull = OpenRect(rectClient);
+    const CRect rect = m_bHidden ? SliverOf(rectClient, 0) : m_rectFull;
     if (m_bShown)
         MoveWindow(&rect, TRUE);
 }
@@ -205,7 +207,7 @@ void CLegend::OnSize(UINT nType, int cx, int cy)
     if (m_bHidden)
         return;
     const CRect rect = RectInParent();
-    if (m_nPosition == LEGEND_TOP || m_nPosition == LEGEND_BOTTOM)
+    if (IsAcross())
         m_nHeight = rect.Height();
     else
         m_nWidth = rect.Width();
