@@ -173,24 +173,33 @@ TEST(CrossHair, InTheBitmapWhenShownNotWhenSuspended)
     g.m_graph.LockCrossHair(TRUE);
     const COLORREF crInverse = ~g.Prv()->m_crBackground & 0xFFFFFF;
 
-    // The locked cross with its values as text beside the axes.
-    auto bitmapHas = [&](CPoint pt, COLORREF cr) {
+    // The picture as it comes from the graph, in a context to read.
+    auto picture = [&g](Dib& dib) {
         HBITMAP hBitmap = g.m_graph.GetBitmap();
         HDC hDC = ::CreateCompatibleDC(NULL);
         HGDIOBJ hOld = ::SelectObject(hDC, hBitmap);
-        const bool b = ::GetPixel(hDC, pt.x, pt.y) == cr;
+        ::BitBlt(dib.DC()->m_hDC, 0, 0, dib.m_nWidth, dib.m_nHeight, hDC, 0, 0, SRCCOPY);
         ::SelectObject(hDC, hOld);
         ::DeleteDC(hDC);
         ::DeleteObject(hBitmap);
-        return b;
     };
-    EXPECT_TRUE(bitmapHas(CPoint(c.x, r.top + 3), crInverse));
-    EXPECT_TRUE(bitmapHas(CPoint(r.left + 3, c.y), crInverse));
+    Dib locked(400, 300), suspended(400, 300);
+    picture(locked);
+    EXPECT_EQ(crInverse, locked.At(c.x, r.top + 3));
+    EXPECT_EQ(crInverse, locked.At(r.left + 3, c.y));
 
-    // Suspended by a zoom press, it is not in the picture.
+    // Suspended by a zoom press, it is not in the picture, lines nor values.
     g.Drag(c, c + CPoint(1, 1), false);
-    EXPECT_FALSE(bitmapHas(CPoint(c.x, r.top + 3), crInverse));
+    picture(suspended);
     g.Send(WM_LBUTTONUP, c + CPoint(1, 1));
+    EXPECT_NE(crInverse, suspended.At(c.x, r.top + 3));
+    const CCrossHair& ch = g.Prv()->m_crossHair;
+    const int xText = ch.m_nX - 5 * ch.m_nCharWidth, yText = r.bottom + ch.m_nLabelHeight / 2 + 1;
+    int nDiffering = 0;
+    for (int y = yText; y < yText + ch.m_nLabelHeight; y++)
+        for (int x = xText; x < xText + 10 * ch.m_nCharWidth; x++)
+            nDiffering += locked.At(x, y) != suspended.At(x, y);
+    EXPECT_GT(nDiffering, 10);
 
     // Up and down many times: no GDI object or window is left behind.
     const LONG nGdi = CGdiObject::GetLiveCount();

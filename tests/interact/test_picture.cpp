@@ -2,6 +2,7 @@
 // afresh with the graph's size, and the clipboard's copy of it.
 #include "MouseGraph.h"
 #include "resources/resource.h"
+#include "render/AnnotationMark.h"
 
 namespace {
 
@@ -32,6 +33,21 @@ TEST(Picture, TheBitmapAndTheClipboardHoldTheGraph)
     EXPECT_EQ(g.Prv()->m_rectGraph.Height(), bm.bmHeight);
     EXPECT_EQ(BLUE, BitmapPixel(hBitmap, CPoint(r.CenterPoint().x, g.m_graph.DataToPixelY(5.0, 0))));
     EXPECT_EQ(RGB(0, 0, 0), BitmapPixel(hBitmap, r.TopLeft()));   // the frame
+    ::DeleteObject(hBitmap);
+
+    // What stands on the window only is not in the picture: a marker line
+    // and a listed point highlight.
+    double dMarker = 2.5;
+    ASSERT_EQ(GRAPH_OK, g.m_graph.AddMarkerLine(NULL, ML_SINGLE, "s", &dMarker, NULL, FALSE));
+    g.m_graph.AddPlotDataHighlight("s", "h", 7.5, 7.5, MARK_SQUARE);
+    g.Paint();
+    const CPoint ptMarker(g.m_graph.DataToPixelX(2.5), g.m_graph.DataToPixelY(2.5, 0));
+    const CPoint ptHighlight(g.m_graph.DataToPixelX(7.5), g.m_graph.DataToPixelY(7.5, 0));
+    ASSERT_EQ(BLACK, WindowPixel(g.Hwnd(), ptMarker));
+    ASSERT_EQ(BLACK, WindowPixel(g.Hwnd(), ptHighlight));
+    hBitmap = g.m_graph.GetBitmap();
+    EXPECT_EQ(WHITE, BitmapPixel(hBitmap, ptMarker));
+    EXPECT_EQ(WHITE, BitmapPixel(hBitmap, ptHighlight));
     ::DeleteObject(hBitmap);
 
     // The menu's copy: the clipboard holds the bitmap and nothing else.
