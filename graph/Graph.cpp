@@ -86,6 +86,8 @@ int CGraph::SetCustomColors(DWORD* pColors) { return m_pGraphPrv->SetCustomColor
 int CGraph::GetCustomColors(DWORD* pColors) { return m_pGraphPrv->GetCustomColors(pColors); }
 int CGraph::ReleaseCustomColors() { return m_pGraphPrv->ReleaseCustomColors(); }
 int CGraph::SetLogFont(LOGFONT* pLogFont, int nPointSize, DWORD crText) { return m_pGraphPrv->SetLogFont(pLogFont, nPointSize, crText); }
+int CGraph::SaveToRegistry(HKEY hKey) { return m_pGraphPrv->SaveToRegistry(hKey); }
+int CGraph::LoadFromRegistry(HKEY hKey) { return m_pGraphPrv->LoadFromRegistry(hKey); }
 int CGraph::GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText) { return m_pGraphPrv->GetLogFont(pLogFont, pnPointSize, pcrText); }
 
 // Axes

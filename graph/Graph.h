@@ -79,6 +79,10 @@ public:
     int ReleaseCustomColors();
     int SetLogFont(LOGFONT* pLogFont, int nPointSize, DWORD crText);
     int GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText);
+    // The graph's settings under a registry key the host has opened (and
+    // keeps): 1, or 0 when a step failed.
+    int SaveToRegistry(HKEY hKey);
+    int LoadFromRegistry(HKEY hKey);
 
     // ---- Axes -----------------------------------------------------------------
     int SetXAxisLimits(double dMin, double dMax);

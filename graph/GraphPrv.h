@@ -106,6 +106,10 @@ public:
     int ReleaseCustomColors();
     int SetLogFont(const LOGFONT* pLogFont, int nPointSize, DWORD crText);
     int GetLogFont(LOGFONT* pLogFont, int* pnPointSize, DWORD* pcrText);
+    // The settings under a key the host owns (and the custom colours under
+    // the library's key): 1, or 0 where a step could not be done.
+    int SaveToRegistry(HKEY hKey);
+    int LoadFromRegistry(HKEY hKey);
 
     // ---- axes/: limits, transforms, tic tables, layout ----------------------
     int SetXAxisLimits(double dMin, double dMax);
@@ -400,6 +404,23 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // ---- persist/ (private) -------------------------------------------------
+    // The groups of SaveToRegistry and LoadFromRegistry, in their order.
+    int SaveCustomColors();
+    int LoadCustomColors();
+    int SaveBackgroundColor(HKEY hKey);
+    int LoadBackgroundColor(HKEY hKey);
+    int SaveLimitsToRegistry(HKEY hKey);
+    int LoadLimitsFromRegistry(HKEY hKey);
+    int SaveRadarSettingsToRegistry(HKEY hKey);
+    int LoadRadarSettingsFromRegistry(HKEY hKey);
+    int SaveGridToRegistry(HKEY hKey);
+    int LoadGridFromRegistry(HKEY hKey);
+    int SaveTicMarksToRegistry(HKEY hKey);
+    int LoadTicMarksFromRegistry(HKEY hKey);
+    int SaveFontToRegistry(HKEY hKey, const CString& strSubkey, LOGFONT& lf, int nPointSize, DWORD crColor);
+    int LoadFontFromRegistry(HKEY hKey, const CString& strSubkey, LOGFONT& lf, int& nPointSize, DWORD& crColor);
+
     // The facade forwards the transforms; the limit editor reports through
     // NotifyApplication. Tests reach the internals through one friend of theirs.
     friend class CGraph;

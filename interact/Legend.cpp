@@ -9,6 +9,7 @@
 #include "render/DrawerPen.h"
 #include "resources/messages.h"
 #include "resources/resource.h"
+#include "persist/Registry.h"
 
 namespace {
 
@@ -17,6 +18,7 @@ const int SAMPLE_LEFT = 5;           // the sample box, in item coordinates
 const int SAMPLE_RIGHT = 35;
 const int SAMPLE_MARK_X = 20;        // the mark stands in the middle of the box
 const int TEXT_LEFT = 40;            // the series name starts here
+const DWORD MAX_LEGEND_SIZE = 10000; // pixels; a larger stored size is not taken
 
 } // namespace
 
@@ -61,6 +63,44 @@ BOOL CLegend::Create(CWnd* pParent, int nPosition)
                              rect.top, rect.Width(), rect.Height(), pParent->m_hWnd, (HMENU)0, NULL);
     m_rectFull = rect;
     return bCreated;
+}
+
+// ---- Settings in the registry ---------------------------------------------------
+
+BOOL CLegend::SaveToRegistry(HKEY hKey)
+{
+    if (hKey == NULL)
+        return TRUE;
+    return RegWriteDword(hKey, "Legend", "AutoHide", (DWORD)m_bAutoHide) &&
+           RegWriteDword(hKey, "Legend", "Position", (DWORD)m_nPosition) &&
+           RegWriteDword(hKey, "Legend", "Height", (DWORD)m_nHeight) &&
+           RegWriteDword(hKey, "Legend", "Width", (DWORD)m_nWidth);
+}
+
+BOOL CLegend::LoadFromRegistry(HKEY hKey)
+{
+    if (hKey == NULL)
+        return TRUE;
+    // Each value falls back on the present one, and so does a value the
+    // legend could not stand on: a side other than the four, a size of 0
+    // or beyond any screen.
+    DWORD dwAutoHide, dwPosition, dwHeight, dwWidth;
+    if (!RegReadDword(hKey, "Legend", "AutoHide", &dwAutoHide, (DWORD)m_bAutoHide) ||
+        !RegReadDword(hKey, "Legend", "Position", &dwPosition, (DWORD)m_nPosition) ||
+        !RegReadDword(hKey, "Legend", "Height", &dwHeight, (DWORD)m_nHeight) ||
+        !RegReadDword(hKey, "Legend", "Width", &dwWidth, (DWORD)m_nWidth))
+        return FALSE;
+    m_bAutoHide = dwAutoHide != 0;
+    if (dwPosition >= LEGEND_TOP && dwPosition <= LEGEND_RIGHT)
+        m_nPosition = (int)dwPosition;
+    if (dwHeight >= 1 && dwHeight <= MAX_LEGEND_SIZE)
+        m_nHeight = (int)dwHeight;
+    if (dwWidth >= 1 && dwWidth <= MAX_LEGEND_SIZE)
+        m_nWidth = (int)dwWidth;
+    Reposition();
+    if (m_hWnd != NULL)
+        UpdateWindow();
+    return TRUE;
 }
 
 // ---- Entries -----------------------------------------------------------------

@@ -37,6 +37,10 @@ public:
     // Follows the parent's size: the open rectangle of the side anew, and the
     // window there (or at its sliver while collapsed).
     void Reposition();
+    // Side, sizes and auto-hide under the subkey "Legend" of a host's key;
+    // 1 for a null key, 0 when a value cannot be written or read.
+    BOOL SaveToRegistry(HKEY hKey);
+    BOOL LoadFromRegistry(HKEY hKey);
 
     // Collapses to the sliver at the side (auto-hide only) and opens again.
     void HideAway();
