@@ -168,8 +168,11 @@ void CFloatingEditWnd::OnContextMenu(CWnd*, CPoint point)
     if (pPopup == NULL)
         return;
 
-    // The selection counts characters, so does the text's length here.
-    const int nChars = ::GetWindowTextLengthW(m_hWnd);
+    // The selection counts the control's UTF-16 characters: so does the
+    // text's length here (the window's text length counts ANSI bytes).
+    CString strText;
+    GetWindowText(strText);
+    const int nChars = ::MultiByteToWideChar(CP_ACP, 0, strText, strText.GetLength(), NULL, 0);
     const DWORD dwSel = GetSel();
     const int nStart = LOWORD(dwSel), nEnd = HIWORD(dwSel);
     // Select all only when something is left to select.
