@@ -131,8 +131,8 @@ int CFloatingEditWnd::LoadDefaultFont()
         return 0;
     m_logFont = lf;
     if (m_hWnd != NULL) {
-        // The window shows the font at once; the label gives it its own
-        // font with its next SetFont.
+        // Only a window made before the defaults were read is told; it
+        // borrows the font until the label gives it one of its own.
         CFont font;
         if (font.CreateFontIndirect(&m_logFont))
             CWnd::SetFont(&font, TRUE);

@@ -71,8 +71,10 @@ CFloatingLabel::CFloatingLabel(CGraphPrv* pGraph, UINT nId, int x, int y, double
     }
     AdjustSize();
     // The font gets its exact size in the graph, size first.
-    pGraph->PostMessage(WM_GRAPH_SETLABELPOINTSIZE, nId, (LPARAM)m_nPointSize);
-    pGraph->PostMessage(WM_GRAPH_SETLABELFONT, nId, (LPARAM)&m_logFont);
+    if (pGraph->m_hWnd != NULL) {
+        pGraph->PostMessage(WM_GRAPH_SETLABELPOINTSIZE, nId, (LPARAM)m_nPointSize);
+        pGraph->PostMessage(WM_GRAPH_SETLABELFONT, nId, (LPARAM)&m_logFont);
+    }
 }
 
 CFloatingLabel::~CFloatingLabel()

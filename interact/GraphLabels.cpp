@@ -58,7 +58,8 @@ int CGraphPrv::AddFloatingLabel(CPoint ptScreen)
     if (m_pLabelTracker != NULL || m_pSelectedLabel != NULL) {
         delete m_pLabelTracker;
         m_pLabelTracker = NULL;
-        SetFocus();
+        if (m_hWnd != NULL)
+            SetFocus();
         if (m_pSelectedLabel != NULL)
             DropLabelSelection();
     }

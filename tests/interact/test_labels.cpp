@@ -43,15 +43,20 @@ public:
         CSelectGuard select(&dc, &pLabel->m_font);
         return dc.GetTextExtent(psz, (int)strlen(psz)).cx;
     }
-    // A drag of the tracker from a point on its border, the way Track sees
-    // it: the real pointer there, the cursor settled, then the press with
-    // the move and the release already waiting for the loop.
-    void DragTracker(CPoint pt, CSize d)
+    // The real pointer at a point, the cursor settled there.
+    void Hover(CPoint pt)
     {
         const CPoint ptScreen = Screen(pt);
         ::SetCursorPos(ptScreen.x, ptScreen.y);
         ::SendMessageA(Hwnd(), WM_SETCURSOR, (WPARAM)Hwnd(), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
         Send(WM_MOUSEMOVE, pt);
+    }
+    // A drag of the tracker from a point on its border, the way Track sees
+    // it: the real pointer there, the cursor settled, then the press with
+    // the move and the release already waiting for the loop.
+    void DragTracker(CPoint pt, CSize d)
+    {
+        Hover(pt);
         EXPECT_TRUE(Prv()->m_dwState & GST_OVER_TRACKER);
         ::PostMessageA(Hwnd(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(pt.x + d.cx, pt.y + d.cy));
         ::PostMessageA(Hwnd(), WM_LBUTTONUP, 0, MAKELPARAM(pt.x + d.cx, pt.y + d.cy));
@@ -283,11 +288,15 @@ TEST(FloatingLabel, MenuDeleteEmptyingAndRemovalHoldUpUnderFocusChanges)
     EXPECT_TRUE(::GetDlgItem(g.Hwnd(), 2003) == NULL);
     EXPECT_EQ(g.Hwnd(), ::GetFocus());
 
-    // All labels removed while one is selected: no editor is left, and the
-    // next presses select and add as before.
+    // All labels removed while one is selected and the pointer is on its
+    // tracker: no editor is left, and the next presses select and add as before.
     g.Add(CPoint(rp.left + 10, rp.top + 10));
-    g.Add(rp.CenterPoint());
+    const CPoint ptBorder = g.Add(rp.CenterPoint())->m_rect.TopLeft() + CSize(6, -2);
+    g.Hover(ptBorder);
+    ASSERT_TRUE(g.Prv()->m_dwState & GST_OVER_TRACKER);
     g.m_graph.RemoveAllFloatingLabels();
+    g.Click(ptBorder);
+    g.Send(WM_MOUSEMOVE, rp.CenterPoint());
     EXPECT_TRUE(g.Prv()->m_mapFloatingLabels.IsEmpty());
     EXPECT_TRUE(g.Prv()->m_pLabelTracker == NULL && g.Prv()->m_pSelectedLabel == NULL);
     EXPECT_TRUE(::GetDlgItem(g.Hwnd(), 2004) == NULL && ::GetDlgItem(g.Hwnd(), 2005) == NULL);
@@ -348,7 +357,9 @@ TEST(FloatingLabel, ColourAndFontDialogsRecolourResizeAndBecomeTheDefaults)
     DWORD dw = 0;
     EXPECT_EQ(4u, saved.Read(0, (BYTE*)&dw, 4));
     EXPECT_EQ(crChosen, dw);
-    g.Prv()->SetFocus();   // deselected: the picture shows the drawn text
+    // The selection outlived the dialog (the focus went to the host).
+    EXPECT_EQ(pLabel, g.Prv()->m_pSelectedLabel);
+    EXPECT_NE(g.Edit(pLabel), ::GetFocus());
     const CRect boxSmall = textBox(crChosen);
     ASSERT_GT(boxSmall.Height(), 0);
 
@@ -376,14 +387,20 @@ TEST(FloatingLabel, ColourAndFontDialogsRecolourResizeAndBecomeTheDefaults)
     EXPECT_EQ(200u, dw);
     saved.Read(0, (BYTE*)&dw, 4);
     EXPECT_EQ(crFont, dw);
-    g.Prv()->SetFocus();
     EXPECT_GT(textBox(crFont).Height(), boxSmall.Height() * 3 / 2);
+
+    // Removed with the selection left on an editor without the focus:
+    // nothing of the selection stays behind.
+    const int nBigHeight = pLabel->m_rect.Height();
+    ASSERT_EQ(pLabel, g.Prv()->m_pSelectedLabel);
+    g.m_graph.RemoveAllFloatingLabels();
+    EXPECT_TRUE(g.Prv()->m_pLabelTracker == NULL && g.Prv()->m_pSelectedLabel == NULL);
 
     // A new label comes up in the new colour and size.
     CFloatingLabel* pNext = g.Add(CPoint(rp.left + 20, rp.bottom - 60));
     EXPECT_EQ(crFont, pNext->m_crText);
     EXPECT_EQ(200, pNext->m_nPointSize);
-    EXPECT_EQ(pLabel->m_rect.Height(), pNext->m_rect.Height());
+    EXPECT_EQ(nBigHeight, pNext->m_rect.Height());
 }
 
 TEST(FloatingLabel, LabelsReadBeforeTheWindowGetTheirEditorsAtCreation)
