@@ -13,6 +13,45 @@
 
 namespace {
 
+// The label defaults of the fixed key saved and cleared, so that labels
+// start from the built-in look, and put back as they were.
+class SavedDefaults
+{
+public:
+    SavedDefaults()
+    {
+        ::RegCreateKeyExA(HKEY_LOCAL_MACHINE, GRAPH_FIXED_KEY, 0, NULL, 0, KEY_ALL_ACCESS, NULL, &m_hKey, NULL);
+        for (int i = 0; i < 3; i++) {
+            m_cb[i] = sizeof(m_ab[i]);
+            m_bPresent[i] = ::RegQueryValueExA(m_hKey, s_names[i], NULL, &m_dwType[i], m_ab[i], &m_cb[i]) == 0;
+            ::RegDeleteValueA(m_hKey, s_names[i]);
+        }
+    }
+    ~SavedDefaults()
+    {
+        for (int i = 0; i < 3; i++) {
+            if (m_bPresent[i])
+                ::RegSetValueExA(m_hKey, s_names[i], 0, m_dwType[i], m_ab[i], m_cb[i]);
+            else
+                ::RegDeleteValueA(m_hKey, s_names[i]);
+        }
+        ::RegCloseKey(m_hKey);
+    }
+    DWORD Read(int i, BYTE* pb, DWORD cb)
+    {
+        ::RegQueryValueExA(m_hKey, s_names[i], NULL, NULL, pb, &cb);
+        return cb;
+    }
+    static const char* const s_names[3];
+
+private:
+    HKEY m_hKey = NULL;
+    bool m_bPresent[3];
+    DWORD m_dwType[3], m_cb[3];
+    BYTE m_ab[3][128];
+};
+const char* const SavedDefaults::s_names[3] = { "DefaultLabelColor", "DefaultLabelPointSize", "DefaultLabelFont" };
+
 class LabelGraph : public MouseGraph
 {
 public:
@@ -30,6 +69,7 @@ public:
         return pLabel;
     }
     static HWND Edit(CFloatingLabel* pLabel) { return pLabel->m_pEdit->m_hWnd; }
+    SavedDefaults m_saved;
     // The text set and the editing ended with Escape.
     static void Finish(CFloatingLabel* pLabel, const char* psz)
     {
@@ -70,42 +110,6 @@ std::string Item(const wchar_t* pszText, UINT nId, const char* pszState = "")
     return Str("%s|%u%s", (LPCSTR)AnsiOf(pszText), nId, pszState);
 }
 
-// The values of the fixed key saved, and put back as they were.
-class SavedDefaults
-{
-public:
-    SavedDefaults()
-    {
-        ::RegCreateKeyExA(HKEY_LOCAL_MACHINE, GRAPH_FIXED_KEY, 0, NULL, 0, KEY_ALL_ACCESS, NULL, &m_hKey, NULL);
-        for (int i = 0; i < 3; i++) {
-            m_cb[i] = sizeof(m_ab[i]);
-            m_bPresent[i] = ::RegQueryValueExA(m_hKey, s_names[i], NULL, &m_dwType[i], m_ab[i], &m_cb[i]) == 0;
-        }
-    }
-    ~SavedDefaults()
-    {
-        for (int i = 0; i < 3; i++) {
-            if (m_bPresent[i])
-                ::RegSetValueExA(m_hKey, s_names[i], 0, m_dwType[i], m_ab[i], m_cb[i]);
-            else
-                ::RegDeleteValueA(m_hKey, s_names[i]);
-        }
-        ::RegCloseKey(m_hKey);
-    }
-    DWORD Read(int i, BYTE* pb, DWORD cb)
-    {
-        ::RegQueryValueExA(m_hKey, s_names[i], NULL, NULL, pb, &cb);
-        return cb;
-    }
-    static const char* const s_names[3];
-
-private:
-    HKEY m_hKey = NULL;
-    bool m_bPresent[3];
-    DWORD m_dwType[3], m_cb[3];
-    BYTE m_ab[3][128];
-};
-const char* const SavedDefaults::s_names[3] = { "DefaultLabelColor", "DefaultLabelPointSize", "DefaultLabelFont" };
 
 // Ends the system's dialog that is up from a thread timer: fn sets its
 // controls, then OK is pressed.
@@ -160,8 +164,10 @@ TEST(FloatingLabel, NewLabelsAreSelectedKeptInThePlotAndSizedByTheirText)
 
     // Past the right edge: the right side stops at the plot's width counted
     // from 0. The first label is deselected on the way.
-    CFloatingLabel* pRight = g.Add(CPoint(rp.right - 2, rp.top + 40));
+    g.m_graph.AddFloatingLabel(g.Screen(CPoint(rp.right - 2, rp.top + 40)));
+    CFloatingLabel* pRight = g.Label(2003);
     EXPECT_EQ(rp.Width(), pRight->m_rect.right);
+    TestHost::Pump();
     EXPECT_FALSE(::IsWindowVisible(g.Edit(pFirst)));
     EXPECT_EQ(pRight, g.Prv()->m_pSelectedLabel);
 
@@ -331,8 +337,8 @@ TEST(FloatingLabel, MenuDeleteEmptyingAndRemovalHoldUpUnderFocusChanges)
 
 TEST(FloatingLabel, ColourAndFontDialogsRecolourResizeAndBecomeTheDefaults)
 {
-    SavedDefaults saved;
     LabelGraph g;
+    SavedDefaults& saved = g.m_saved;
     const CRect& rp = g.m_rectPlot;
     CFloatingLabel* pLabel = g.Add(CPoint(rp.left + 20, rp.top + 20));
     // The label's text pixels of a colour, in a picture of the whole graph.
