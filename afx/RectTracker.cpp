@@ -1,4 +1,5 @@
-// CRectTracker: geometry, hit test, cursor and drawing of the tracker frame.
+// CRectTracker: geometry, hit test, cursor and drawing of the tracker frame,
+// and the Track loop that moves the item or drags a handle.
 #include "afx/afxext.h"
 #include <stddef.h>
 
@@ -51,6 +52,35 @@ LPCSTR CursorOfHit(int nHit)
 // The hatch of borders: one diagonal line in four pixels.
 const WORD g_awHatch[8] = { 0x11, 0x22, 0x44, 0x88, 0x11, 0x22, 0x44, 0x88 };
 
+// For each field of a RECT (left, top, right, bottom): the field across from
+// it and the direction in which it lies, for the minimum size of a drag.
+struct RectInfo
+{
+    size_t nOffsetAcross;
+    int nSignAcross;
+};
+
+const RectInfo g_rectInfo[4] = {
+    { offsetof(RECT, right), +1 },
+    { offsetof(RECT, bottom), +1 },
+    { offsetof(RECT, left), -1 },
+    { offsetof(RECT, top), -1 },
+};
+
+// Inverts the frame of thickness size inside rect with brush (PATINVERT: a
+// second call takes it away). An empty size inverts nothing.
+void InvertFrame(CDC* pDC, const CRect& rect, CSize size, CBrush* pBrush)
+{
+    if (size.cx <= 0 || size.cy <= 0 || rect.IsRectEmpty())
+        return;
+    CSelectGuard selectBrush(pDC, pBrush);
+    const int cx = rect.Width(), cy = rect.Height();
+    pDC->PatBlt(rect.left, rect.top, cx, size.cy, PATINVERT);
+    pDC->PatBlt(rect.left, rect.bottom - size.cy, cx, size.cy, PATINVERT);
+    pDC->PatBlt(rect.left, rect.top + size.cy, size.cx, cy - 2 * size.cy, PATINVERT);
+    pDC->PatBlt(rect.right - size.cx, rect.top + size.cy, size.cx, cy - 2 * size.cy, PATINVERT);
+}
+
 } // namespace
 
 CRectTracker::CRectTracker()
@@ -73,6 +103,11 @@ void CRectTracker::Construct()
     m_nStyle = 0;
     m_nHandleSize = 4;
     m_sizeMin.cx = m_sizeMin.cy = m_nHandleSize * 2;
+    m_bAllowInvert = FALSE;
+    m_bErase = FALSE;
+    m_bFinalErase = FALSE;
+    m_rectLast.SetRectEmpty();
+    m_sizeLast.cx = m_sizeLast.cy = 0;
 }
 
 void CRectTracker::GetTrueRect(LPRECT lpTrueRect) const
@@ -247,4 +282,212 @@ void CRectTracker::Draw(CDC* pDC) const
             }
         }
     }
+}
+
+// ---------------------------------------------------------------------------
+// Track
+// ---------------------------------------------------------------------------
+
+BOOL CRectTracker::Track(CWnd* pWnd, CPoint point, BOOL bAllowInvert, CWnd* pWndClipTo)
+{
+    const int nHandle = HitTestHandles(point);
+    if (nHandle < 0)
+        return FALSE;
+    m_bAllowInvert = bAllowInvert;
+    return TrackHandle(nHandle, pWnd, point, pWndClipTo);
+}
+
+void CRectTracker::GetModifyPointers(int nHandle, LONG** ppx, LONG** ppy, int* px, int* py)
+{
+    // A move drags the top left corner, and the rest follows.
+    if (nHandle == hitMiddle)
+        nHandle = hitTopLeft;
+    *ppx = NULL;
+    *ppy = NULL;
+    // A handle that stays itself when its axis is inverted (a side's middle)
+    // moves nothing along that axis.
+    const HandleInfo& info = g_handleInfo[nHandle];
+    if (info.nInvertX != nHandle) {
+        *ppx = (LONG*)((BYTE*)&m_rect + info.nOffsetX);
+        if (px != NULL)
+            *px = **ppx;
+    } else if (px != NULL) {
+        *px = m_rect.left + abs(m_rect.Width()) / 2;
+    }
+    if (info.nInvertY != nHandle) {
+        *ppy = (LONG*)((BYTE*)&m_rect + info.nOffsetY);
+        if (py != NULL)
+            *py = **ppy;
+    } else if (py != NULL) {
+        *py = m_rect.top + abs(m_rect.Height()) / 2;
+    }
+}
+
+void CRectTracker::AdjustRect(int nHandle, LPRECT)
+{
+    if (nHandle == hitMiddle)
+        return;
+    LONG* px;
+    LONG* py;
+    GetModifyPointers(nHandle, &px, &py, NULL, NULL);
+
+    // The dragged side stops m_sizeMin away from the side across from it
+    // (on the same side of it, unless the rectangle may turn inside out).
+    int nNewWidth = m_rect.Width();
+    const int nAbsWidth = m_bAllowInvert ? abs(nNewWidth) : nNewWidth;
+    if (px != NULL && nAbsWidth < m_sizeMin.cx) {
+        nNewWidth = nAbsWidth != 0 ? nNewWidth / nAbsWidth : 1;
+        const RectInfo& info = g_rectInfo[px - (LONG*)&m_rect];
+        *px = RectField(m_rect, info.nOffsetAcross) + nNewWidth * m_sizeMin.cx * -info.nSignAcross;
+    }
+    int nNewHeight = m_rect.Height();
+    const int nAbsHeight = m_bAllowInvert ? abs(nNewHeight) : nNewHeight;
+    if (py != NULL && nAbsHeight < m_sizeMin.cy) {
+        nNewHeight = nAbsHeight != 0 ? nNewHeight / nAbsHeight : 1;
+        const RectInfo& info = g_rectInfo[py - (LONG*)&m_rect];
+        *py = RectField(m_rect, info.nOffsetAcross) + nNewHeight * m_sizeMin.cy * -info.nSignAcross;
+    }
+}
+
+void CRectTracker::OnChangedRect(const CRect&) {}
+
+void CRectTracker::DrawTrackerRect(LPCRECT lpRect, CWnd* pWndClipTo, CDC* pDC, CWnd* pWnd)
+{
+    CRect rect = *lpRect;
+    rect.NormalizeRect();
+    if (pWndClipTo != NULL) {
+        pWnd->ClientToScreen(&rect);
+        pWndClipTo->ScreenToClient(&rect);
+    }
+    // The outline has the thickness of the border the style draws; the
+    // final erase draws none.
+    CSize size(0, 0);
+    if (!m_bFinalErase) {
+        if (m_nStyle & hatchedBorder) {
+            size.cx = size.cy = m_nHandleSize - 1 > 1 ? m_nHandleSize - 1 : 1;
+            rect.InflateRect(size.cx, size.cy);
+        } else {
+            size.cx = ::GetSystemMetrics(SM_CXBORDER);
+            size.cy = ::GetSystemMetrics(SM_CYBORDER);
+        }
+    }
+    if (m_bFinalErase || !m_bErase) {
+        // A halftone brush: the outline shows on any background and goes
+        // with a second inversion.
+        const WORD awHalftone[8] = { 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA };
+        CBitmap bitmap;
+        CBrush brush;
+        if (bitmap.CreateBitmap(8, 8, 1, 1, awHalftone) && brush.CreatePatternBrush(&bitmap)) {
+            CSaveDCGuard saveDC(pDC);
+            ::SetBrushOrgEx(pDC->m_hDC, 0, 0, NULL);
+            InvertFrame(pDC, m_rectLast, m_sizeLast, &brush);
+            InvertFrame(pDC, rect, size, &brush);
+        }
+    }
+    m_rectLast = rect;
+    m_sizeLast = size;
+}
+
+BOOL CRectTracker::TrackHandle(int nHandle, CWnd* pWnd, CPoint point, CWnd* pWndClipTo)
+{
+    if (::GetCapture() != NULL)
+        return FALSE;
+    const int nWidth = m_rect.Width();
+    const int nHeight = m_rect.Height();
+
+    pWnd->SetCapture();
+    pWnd->UpdateWindow();
+    if (pWndClipTo != NULL)
+        pWndClipTo->UpdateWindow();
+    const CRect rectSave = m_rect;
+
+    // The dragged fields keep their distance to the pointer.
+    LONG* px;
+    LONG* py;
+    int xDiff, yDiff;
+    GetModifyPointers(nHandle, &px, &py, &xDiff, &yDiff);
+    xDiff = point.x - xDiff;
+    yDiff = point.y - yDiff;
+
+    CWnd* pDrawWnd = pWndClipTo != NULL ? pWndClipTo : pWnd;
+    CDC* pDrawDC = pDrawWnd->GetDC();
+    m_rectLast.SetRectEmpty();
+    m_sizeLast.cx = m_sizeLast.cy = 0;
+    BOOL bMoved = FALSE;
+
+    // The modal loop: moves and the release change the rectangle, Escape and
+    // a right press cancel, everything else is dispatched as usual.
+    for (;;) {
+        MSG msg;
+        const BOOL bGot = ::GetMessageA(&msg, NULL, 0, 0);
+        if (bGot <= 0) {
+            if (bGot == 0)
+                ::PostQuitMessage((int)msg.wParam);   // the quit belongs to the outer loop
+            break;
+        }
+        if (::GetCapture() != pWnd->m_hWnd)
+            break;
+
+        bool bCancel = false;
+        switch (msg.message) {
+        case WM_LBUTTONUP:
+        case WM_MOUSEMOVE: {
+            const CRect rectOld = m_rect;
+            if (px != NULL)
+                *px = (short)LOWORD(msg.lParam) - xDiff;
+            if (py != NULL)
+                *py = (short)HIWORD(msg.lParam) - yDiff;
+            if (nHandle == hitMiddle) {
+                m_rect.right = m_rect.left + nWidth;
+                m_rect.bottom = m_rect.top + nHeight;
+            }
+            AdjustRect(nHandle, &m_rect);
+
+            m_bFinalErase = msg.message == WM_LBUTTONUP;
+            if (!rectOld.EqualRect(&m_rect) || m_bFinalErase) {
+                if (bMoved) {
+                    m_bErase = TRUE;
+                    DrawTrackerRect(&rectOld, pWndClipTo, pDrawDC, pWnd);
+                }
+                OnChangedRect(rectOld);
+                if (msg.message != WM_LBUTTONUP)
+                    bMoved = TRUE;
+            }
+            if (m_bFinalErase)
+                goto ExitLoop;
+            if (!rectOld.EqualRect(&m_rect)) {
+                m_bErase = FALSE;
+                DrawTrackerRect(&m_rect, pWndClipTo, pDrawDC, pWnd);
+            }
+            break;
+        }
+        case WM_KEYDOWN:
+            bCancel = msg.wParam == VK_ESCAPE;
+            break;
+        case WM_RBUTTONDOWN:
+            bCancel = true;
+            break;
+        default:
+            ::DispatchMessageA(&msg);
+            break;
+        }
+        if (bCancel) {
+            if (bMoved) {
+                m_bErase = m_bFinalErase = TRUE;
+                DrawTrackerRect(&m_rect, pWndClipTo, pDrawDC, pWnd);
+            }
+            m_rect = rectSave;
+            goto ExitLoop;
+        }
+    }
+
+ExitLoop:
+    pDrawWnd->ReleaseDC(pDrawDC);
+    ::ReleaseCapture();
+    // A release without a move before it leaves the rectangle as it was.
+    if (!bMoved)
+        m_rect = rectSave;
+    m_bFinalErase = FALSE;
+    m_bErase = FALSE;
+    return !rectSave.EqualRect(&m_rect);
 }

@@ -1,6 +1,6 @@
 // CRectTracker: the frame around a selected item, with its hatched border
-// and resize handles, the cursor over it and the hit test of a point. The
-// interactive Track loop is not part of this layer yet.
+// and resize handles, the cursor over it, the hit test of a point, and Track,
+// the modal loop in which the user moves the item or drags one of its handles.
 #pragma once
 
 #include "afx/afxwnd.h"
@@ -55,11 +55,36 @@ public:
     // The hit code of a handle as it stands on screen, for a rectangle whose
     // width or height is negative.
     int NormalizeHit(int nHandle) const;
+    // The user moves the item (a press on it or on the hatched border) or
+    // drags the handle under point (client coordinates of pWnd, which takes
+    // the capture) until the left button goes up; Escape or a right press
+    // cancels. The outline is drawn inverted on pWndClipTo, or on pWnd when
+    // that is null. TRUE when m_rect changed. Nothing happens when point is
+    // on no part of the tracker or another window holds the capture.
+    BOOL Track(CWnd* pWnd, CPoint point, BOOL bAllowInvert = FALSE, CWnd* pWndClipTo = NULL);
+
+    // Called during Track: the rectangle may be corrected (the default keeps
+    // m_sizeMin), and is told of each change.
+    virtual void AdjustRect(int nHandle, LPRECT lpRect);
+    virtual void OnChangedRect(const CRect& rectOld);
+    // The inverted outline of a Track: drawn at lpRect, the last one erased.
+    virtual void DrawTrackerRect(LPCRECT lpRect, CWnd* pWndClipTo, CDC* pDC, CWnd* pWnd);
 
 protected:
     virtual UINT GetHandleMask() const;
     void GetHandleRect(int nHandle, CRect* pHandleRect) const;
     int HitTestHandles(CPoint point) const;
+    // The loop of Track for one handle (hitMiddle moves the whole item).
+    BOOL TrackHandle(int nHandle, CWnd* pWnd, CPoint point, CWnd* pWndClipTo);
+    // The fields of m_rect a handle moves (null for none along that axis),
+    // and where the handle stands.
+    void GetModifyPointers(int nHandle, LONG** ppx, LONG** ppy, int* px, int* py);
+
+    BOOL m_bAllowInvert;    // Track may turn the rectangle inside out
+    BOOL m_bErase;          // DrawTrackerRect only remembers: the outline is being erased
+    BOOL m_bFinalErase;     // the last outline goes, none comes
+    CRect m_rectLast;       // the outline now on the screen
+    CSize m_sizeLast;       // its thickness
 
 private:
     void Construct();

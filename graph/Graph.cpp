@@ -149,6 +149,9 @@ int CGraph::EnableColumnReduction(BOOL bEnable) { return m_pGraphPrv->EnableColu
 int CGraph::DisplayMenu(POINT* pPoint) { return m_pGraphPrv->DisplayMenu(pPoint); }
 HBITMAP CGraph::GetBitmap() { return m_pGraphPrv->GetBitmap(); }
 int CGraph::CopyToClipboard() { return m_pGraphPrv->CopyToClipboard(); }
+int CGraph::AddFloatingLabel() { return m_pGraphPrv->AddFloatingLabel(); }
+int CGraph::AddFloatingLabel(CPoint ptScreen) { return m_pGraphPrv->AddFloatingLabel(ptScreen); }
+void CGraph::RemoveAllFloatingLabels() { m_pGraphPrv->RemoveAllFloatingLabels(); }
 int CGraph::ShowLegend() { return m_pGraphPrv->ShowLegend(); }
 int CGraph::ShowLegend(int bShow) { return m_pGraphPrv->ShowLegend(bShow); }
 int CGraph::IsLegendVisible() { return m_pGraphPrv->IsLegendVisible(); }

@@ -150,6 +150,11 @@ public:
     // could be made), or on the clipboard as CF_BITMAP.
     HBITMAP GetBitmap();
     int CopyToClipboard();
+    // A floating label in edit mode at the pointer, or at a point in screen
+    // coordinates; and all labels removed.
+    int AddFloatingLabel();
+    int AddFloatingLabel(CPoint ptScreen);
+    void RemoveAllFloatingLabels();
     // The legend of the series: on, off, or the other way round.
     int ShowLegend();
     int ShowLegend(int bShow);

@@ -3,6 +3,7 @@
 // operations, destruction.
 #include "graph/GraphPrv.h"
 #include "graph/Globals.h"
+#include "afx/afxext.h"
 #include "resources/resource.h"
 #include <string.h>
 
@@ -179,6 +180,8 @@ int CGraphPrv::Replot()
 
 void CGraphPrv::DestroyOwnedTools()
 {
+    delete m_pLabelTracker;
+    m_pLabelTracker = NULL;
     RemoveAllReferenceLines();
     RemoveAllFloatingLabels();
     RemoveMarkerLine();

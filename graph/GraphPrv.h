@@ -486,6 +486,9 @@ private:
     BOOL SelectLabelAt(CPoint point);
     void DropLabelSelection();
     void FloatingLabelHitTest(UINT nFlags, CPoint point);
+    // Shifts rect into the extents of the plot (nArea 1) or of the graph,
+    // counted from client coordinate 0.
+    void KeepRectInArea(CRect& rect, int nArea);
 
     // ---- render/ (private) --------------------------------------------------
     // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when

@@ -6,6 +6,7 @@
 #include "graph/GraphPrv.h"
 #include "resources/messages.h"
 #include "afx/afxext.h"
+#include "interact/FloatingEditWnd.h"
 
 BEGIN_MESSAGE_MAP(CGraphPrv, CWnd)
     ON_WM_PAINT()
@@ -205,9 +206,10 @@ HBRUSH CGraphPrv::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
         hBrush = CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
     }
     pDC->SetBkColor(::GetSysColor(COLOR_WINDOW));
-    // The limit editor and the value tips write in the graph's text font and
-    // colour. (A label's own editor keeps its font and colour: it is no
-    // child of this kind yet.)
+    // A label's editor keeps its own font and colour; the limit editor and
+    // the value tips write in the graph's.
+    if (pWnd != NULL && pWnd->IsKindOf(RUNTIME_CLASS(CFloatingEditWnd)))
+        return hBrush;
     pDC->SetTextColor(m_crText);
     pDC->SelectObject(&m_font);
     return hBrush;

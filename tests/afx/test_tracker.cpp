@@ -1,8 +1,9 @@
 // CRectTracker around a selected item, in the style the graph gives it (a
 // hatched border with resize handles outside): what a point hits, what it
-// draws, and the cursor only for the client area.
+// draws, the cursor only for the client area, and the Track loop.
 #include "Surface.h"
 #include "afx/afxext.h"
+#include <vector>
 
 TEST(RectTracker, HitsAndDrawingOfAHatchedTrackerWithHandlesOutside)
 {
@@ -44,4 +45,38 @@ TEST(RectTracker, HitsAndDrawingOfAHatchedTrackerWithHandlesOutside)
     // The cursor is the tracker's only over the client area.
     TestHost host;
     EXPECT_FALSE(tracker.SetCursor(host.Wnd(), HTCAPTION));
+}
+
+TEST(RectTracker, TrackMovesResizesKeepsTheMinimumAndCancels)
+{
+    TestHost host;
+    HWND hWnd = host.Hwnd();
+    // The loop takes what waits in the queue: moves, then a release or Escape.
+    struct Queued
+    {
+        UINT nMessage;
+        WPARAM wParam;
+        LPARAM lParam;
+    };
+    auto track = [&](CRectTracker& tracker, CPoint pt, std::vector<Queued> msgs) {
+        for (const Queued& msg : msgs)
+            ::PostMessageA(hWnd, msg.nMessage, msg.wParam, msg.lParam);
+        return tracker.Track(host.Wnd(), pt);
+    };
+    auto at = [](UINT nMessage, int x, int y) { return Queued{ nMessage, 0, MAKELPARAM(x, y) }; };
+    CRectTracker tracker(CRect(50, 50, 150, 100), CRectTracker::hatchedBorder | CRectTracker::resizeOutside);
+
+    // The bottom right handle drags that corner alone.
+    EXPECT_TRUE(track(tracker, CPoint(151, 101), { at(WM_MOUSEMOVE, 171, 111), at(WM_LBUTTONUP, 171, 111) }));
+    EXPECT_EQ(CRect(50, 50, 170, 110), tracker.m_rect);
+    // The right side dragged past the left one stops at the minimum width.
+    EXPECT_TRUE(track(tracker, CPoint(171, 80), { at(WM_MOUSEMOVE, 20, 80), at(WM_LBUTTONUP, 20, 80) }));
+    EXPECT_EQ(CRect(50, 50, 50 + tracker.m_sizeMin.cx, 110), tracker.m_rect);
+    // Escape puts the rectangle back; a press on nothing tracks nothing; the
+    // capture is given back each time.
+    const CRect rect = tracker.m_rect;
+    EXPECT_FALSE(track(tracker, CPoint(48, 75), { at(WM_MOUSEMOVE, 90, 90), Queued{ WM_KEYDOWN, VK_ESCAPE, 0 } }));
+    EXPECT_EQ(rect, tracker.m_rect);
+    EXPECT_FALSE(tracker.Track(host.Wnd(), CPoint(300, 300)));
+    EXPECT_TRUE(::GetCapture() == NULL);
 }

@@ -1,0 +1,63 @@
+// The system's common dialogs for colours and fonts, as modal dialogs of the
+// layer: the CHOOSECOLOR and CHOOSEFONT records are public, set up by the
+// constructors and open to the caller before DoModal.
+#pragma once
+
+#include "afx/afxwnd.h"
+#include <commdlg.h>
+
+class AFX_EXT_CLASS CCommonDialog : public CWnd
+{
+    DECLARE_DYNAMIC(CCommonDialog)
+public:
+    explicit CCommonDialog(CWnd* pParentWnd);
+
+    // Runs the dialog; IDOK or IDCANCEL.
+    virtual int DoModal() = 0;
+
+protected:
+    // The window that owns the dialog: the top-level window of the parent
+    // (the system's dialogs are owned by top-level windows only), or null.
+    HWND PreModal() const;
+
+    CWnd* m_pParentWnd;
+};
+
+class AFX_EXT_CLASS CColorDialog : public CCommonDialog
+{
+    DECLARE_DYNAMIC(CColorDialog)
+public:
+    // dwFlags are CC_ flags; a non-zero clrInit is the colour first shown.
+    explicit CColorDialog(COLORREF clrInit = 0, DWORD dwFlags = 0, CWnd* pParentWnd = NULL);
+
+    virtual int DoModal();
+    COLORREF GetColor() const { return m_cc.rgbResult; }
+    void SetCurrentColor(COLORREF clr);
+    // The 16 custom colours that every colour dialog of the process shows and keeps.
+    static COLORREF* PASCAL GetSavedCustomColors();
+
+    CHOOSECOLORA m_cc;
+};
+
+class AFX_EXT_CLASS CFontDialog : public CCommonDialog
+{
+    DECLARE_DYNAMIC(CFontDialog)
+public:
+    // With lplfInitial the dialog starts on that font and writes the chosen
+    // one back into it. pdcPrinter lists the fonts of a printer as well.
+    explicit CFontDialog(LPLOGFONT lplfInitial = NULL, DWORD dwFlags = CF_EFFECTS | CF_SCREENFONTS,
+                         CDC* pdcPrinter = NULL, CWnd* pParentWnd = NULL);
+
+    virtual int DoModal();
+    // The font chosen (while the dialog is up: the one it shows).
+    void GetCurrentFont(LPLOGFONT lplf);
+    CString GetFaceName() const { return CString(m_lf.lfFaceName); }
+    int GetSize() const { return m_cf.iPointSize; }   // tenths of a point
+    COLORREF GetColor() const { return m_cf.rgbColors; }
+    int GetWeight() const { return (int)m_lf.lfWeight; }
+    BOOL IsItalic() const { return m_lf.lfItalic != 0; }
+
+    CHOOSEFONTA m_cf;
+    LOGFONT m_lf;             // the chosen font after OK
+    char m_szStyleName[64];   // the style the dialog shows
+};
