@@ -109,6 +109,10 @@ int CGraphPrv::DisplayMenu(POINT* pPoint)
 
 BOOL CGraphPrv::OnCommand(WPARAM wParam, LPARAM lParam)
 {
+    // A control's notification (a label's editor, a limit editor) carries
+    // its window: it is no menu choice, whatever its id.
+    if (lParam != 0)
+        return CWnd::OnCommand(wParam, lParam);
     const UINT nId = LOWORD(wParam);
     switch (nId) {
     case ID_GRAPH_PROPERTIES: {

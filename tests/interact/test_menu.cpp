@@ -112,6 +112,10 @@ TEST(ContextMenu, ChosenEntriesAndCommands)
     g.Command(ID_GRAPH_COPY);
     g.Command(14701);
     EXPECT_EQ((std::vector<std::string>{ "event 2048", "command 14701" }), g.Heard());
+    // A control's notification of that id (a floating label's editor says
+    // its text changed) is no menu choice.
+    ::SendMessageA(g.Hwnd(), WM_COMMAND, MAKEWPARAM(14701, EN_CHANGE), (LPARAM)g.m_host.Hwnd());
+    EXPECT_TRUE(g.Heard().empty());
 
     // Two entries of one id both fire, to a window and to the sink; removing
     // the id takes the first only; an unknown id removes nothing.
