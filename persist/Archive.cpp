@@ -8,7 +8,8 @@
 // stream cut short) and the file's CFileException*. A lack of memory while
 // loading ends the load too, as CArchiveException generic: the object that
 // could not be made leaves the stream position behind, so nothing after it
-// could be read anyway.
+// could be read anyway. The same generic cause ends a load at a grid pen
+// width or a text size that no drawing could use.
 #include "graph/GraphPrv.h"
 #include "afx/afxarch.h"
 #include "render/RefLineData.h"
@@ -17,6 +18,22 @@
 namespace {
 
 const char s_szSignature[] = "ZPXGRAPH 1.0";
+
+// Sizes beyond what any drawing could use: a stream that holds one is taken
+// as damaged, rather than leave a graph whose next paint would take minutes.
+const int s_nMaxGridPenWidth = 255;     // pixels
+const int s_nMaxPointSize = 16380;      // tenths of a point, either sign
+
+// A number field that must lie within [nMin, nMax], read aside first so a
+// damaged value never reaches the graph.
+int ReadBounded(CArchive& ar, int nMin, int nMax)
+{
+    int n = 0;
+    ar >> n;
+    if (n < nMin || n > nMax)
+        AfxThrowArchiveException(CArchiveException::generic);
+    return n;
+}
 
 // The longest prefix of strFace that fits lfFaceName with its terminator,
 // cut between characters, never inside a double-byte one.
@@ -82,7 +99,9 @@ void CGraphPrv::LoadFromArchive(CArchive& ar)
     ar >> m_dwStyle;
     ar >> m_strGraphTitle >> m_strXAxisLabel >> m_strYAxisLabel[0] >> m_strYAxisLabel[1];
     ar >> m_strXAxisNumFmt >> m_strYAxisNumFmt[0] >> m_strYAxisNumFmt[1];
-    ar >> m_crBackground >> m_nGridPenWidth >> m_nAutoScaleMode >> m_dwGridType >> m_crGrid >> m_dwGridStyle;
+    ar >> m_crBackground;
+    m_nGridPenWidth = ReadBounded(ar, 0, s_nMaxGridPenWidth);
+    ar >> m_nAutoScaleMode >> m_dwGridType >> m_crGrid >> m_dwGridStyle;
     ar >> m_bRightAxisDisplayed >> m_nXTicType >> m_nYTicType[0] >> m_nYTicType[1];
 
     // Lines are read one by one, so a count larger than the stream ends at
@@ -105,7 +124,9 @@ void CGraphPrv::LoadFromArchive(CArchive& ar)
         pLine->Serialize(ar);
     }
 
-    ar >> m_nMinorTics >> m_nPointSize >> m_crText >> m_strFaceName >> m_lFontWeight >> m_bFontItalic;
+    ar >> m_nMinorTics;
+    m_nPointSize = ReadBounded(ar, -s_nMaxPointSize, s_nMaxPointSize);
+    ar >> m_crText >> m_strFaceName >> m_lFontWeight >> m_bFontItalic;
     RebuildFontFromArchive();
     ar >> m_wRadarType >> m_dRadarXPercent >> m_dRadarYPercent;
     ar >> m_dXMax >> m_dXMin >> m_dYMax[0] >> m_dYMax[1] >> m_dYMin[0] >> m_dYMin[1];
