@@ -25,6 +25,3 @@ BOOL BuildBaseColors();
 BOOL BuildCustomColors();
 void FreeColorTables();
 BOOL RegisterPaletteWindowClass();
-// The rotating colours in the configuration file beside the library.
-BOOL LoadDefaultLineColors();
-BOOL SaveDefaultLineColors();

@@ -490,6 +490,15 @@ private:
     // counted from client coordinate 0.
     void KeepRectInArea(CRect& rect, int nArea);
 
+    // ---- persist/ (private) -------------------------------------------------
+    // The two directions of the archive stream (Serialize catches what they
+    // raise for lack of memory), and the font rebuilt from loaded fields.
+    void StoreToArchive(CArchive& ar);
+    void LoadFromArchive(CArchive& ar);
+    void RebuildFontFromArchive();
+    // The floating labels' part of the stream: their count, then the labels.
+    void SerializeFloatingLabels(CArchive& ar);
+
     // ---- render/ (private) --------------------------------------------------
     // Clips the segment pt1-pt2 to rect (inclusive edges) in place; 1 when
     // some part is visible. dwFlags gets CLIP_MOVED_FIRST / CLIP_MOVED_SECOND.

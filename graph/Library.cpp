@@ -3,6 +3,7 @@
 // satellite of the thread's locale, if one is installed.
 #include "graph/Graph.h"
 #include "graph/Globals.h"
+#include "persist/ConfigFile.h"
 #include "zpx/ZpxUtl.h"
 
 AFX_EXTENSION_MODULE g_GraphExtensionModule = { FALSE, NULL, NULL, NULL, NULL };
@@ -26,7 +27,7 @@ void ProcessAttach(HINSTANCE hInstance)
         return;
     if (!BuildDefaultLineColors())
         return;
-    LoadDefaultLineColors();   // a file that cannot be read leaves the defaults
+    LoadGraphConfig();   // a file that cannot be read leaves the defaults
     if (!BuildBaseColors())
         return;
     BuildCustomColors();
@@ -34,8 +35,7 @@ void ProcessAttach(HINSTANCE hInstance)
 
 void ProcessDetach()
 {
-    if (g_bGraphCreated)
-        SaveDefaultLineColors();
+    SaveGraphConfig();   // only if a graph was made in this process
     FreeColorTables();
     AfxTermExtensionModule(g_GraphExtensionModule);
 }

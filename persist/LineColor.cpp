@@ -1,5 +1,6 @@
 // CLineColor: the record of one series' look.
 #include "persist/LineColor.h"
+#include "afx/afxarch.h"
 
 IMPLEMENT_SERIAL(CLineColor, CObject, 0)
 
@@ -8,7 +9,11 @@ CLineColor::CLineColor() {}
 
 CLineColor::~CLineColor() {}
 
+// One record of the configuration file: the name, then four 32-bit numbers.
 void CLineColor::Serialize(CArchive& ar)
 {
-    CObject::Serialize(ar);
+    if (ar.IsStoring())
+        ar << m_strName << m_crLine << m_nLineStyle << m_nAnnotate << m_nLineWidth;
+    else
+        ar >> m_strName >> m_crLine >> m_nLineStyle >> m_nAnnotate >> m_nLineWidth;
 }

@@ -2,15 +2,20 @@
 // drawing them across the plot.
 #include "graph/GraphPrv.h"
 #include "render/RefLineData.h"
+#include "afx/afxarch.h"
 
 IMPLEMENT_SERIAL(CRefLineData, CObject, 0)
 
 CRefLineData::CRefLineData() : m_dwFlags(REFLINE_VERTICAL), m_fPosition(0.0f) {}
 CRefLineData::~CRefLineData() {}
 
+// Flags and position; the graph writes the name before them.
 void CRefLineData::Serialize(CArchive& ar)
 {
-    CObject::Serialize(ar);
+    if (ar.IsStoring())
+        ar << m_dwFlags << m_fPosition;
+    else
+        ar >> m_dwFlags >> m_fPosition;
 }
 
 int CGraphPrv::AddReferenceLine(CString strName, DWORD dwFlags, double dPosition)
