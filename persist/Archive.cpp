@@ -13,19 +13,15 @@
 #include "graph/GraphPrv.h"
 #include "afx/afxarch.h"
 #include "render/RefLineData.h"
+#include "persist/ArchiveFields.h"
 #include <string.h>
 
 namespace {
 
 const char s_szSignature[] = "ZPXGRAPH 1.0";
 
-// Sizes beyond what any drawing could use: a stream that holds one is taken
-// as damaged, rather than leave a graph whose next paint would take minutes.
-const int s_nMaxGridPenWidth = 255;     // pixels
-const int s_nMaxPointSize = 16380;      // tenths of a point, either sign
+} // namespace
 
-// A number field that must lie within [nMin, nMax], read aside first so a
-// damaged value never reaches the graph.
 int ReadBounded(CArchive& ar, int nMin, int nMax)
 {
     int n = 0;
@@ -35,8 +31,6 @@ int ReadBounded(CArchive& ar, int nMin, int nMax)
     return n;
 }
 
-// The longest prefix of strFace that fits lfFaceName with its terminator,
-// cut between characters, never inside a double-byte one.
 void CopyFaceName(char* pszFace, const CString& strFace)
 {
     const int nMax = LF_FACESIZE - 1;
@@ -50,8 +44,6 @@ void CopyFaceName(char* pszFace, const CString& strFace)
     memcpy(pszFace, (LPCSTR)strFace, n);
     pszFace[n] = '\0';
 }
-
-} // namespace
 
 void CGraphPrv::Serialize(CArchive& ar)
 {
@@ -100,7 +92,7 @@ void CGraphPrv::LoadFromArchive(CArchive& ar)
     ar >> m_strGraphTitle >> m_strXAxisLabel >> m_strYAxisLabel[0] >> m_strYAxisLabel[1];
     ar >> m_strXAxisNumFmt >> m_strYAxisNumFmt[0] >> m_strYAxisNumFmt[1];
     ar >> m_crBackground;
-    m_nGridPenWidth = ReadBounded(ar, 0, s_nMaxGridPenWidth);
+    m_nGridPenWidth = ReadBounded(ar, 0, ARCHIVE_MAX_GRID_PEN_WIDTH);
     ar >> m_nAutoScaleMode >> m_dwGridType >> m_crGrid >> m_dwGridStyle;
     ar >> m_bRightAxisDisplayed >> m_nXTicType >> m_nYTicType[0] >> m_nYTicType[1];
 
@@ -125,7 +117,7 @@ void CGraphPrv::LoadFromArchive(CArchive& ar)
     }
 
     ar >> m_nMinorTics;
-    m_nPointSize = ReadBounded(ar, -s_nMaxPointSize, s_nMaxPointSize);
+    m_nPointSize = ReadBounded(ar, -ARCHIVE_MAX_POINT_SIZE, ARCHIVE_MAX_POINT_SIZE);
     ar >> m_crText >> m_strFaceName >> m_lFontWeight >> m_bFontItalic;
     RebuildFontFromArchive();
     ar >> m_wRadarType >> m_dRadarXPercent >> m_dRadarYPercent;

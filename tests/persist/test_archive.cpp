@@ -2,6 +2,7 @@
 // graph, the string prefixes, round trips, what loading bypasses and what it
 // keeps when the stream is cut short or loaded twice, and what a copy stores.
 #include "Archives.h"
+#include "interact/FloatingLabel.h"
 #include <string>
 
 namespace {
@@ -203,4 +204,51 @@ TEST(Archive, CopyStoresTheFaceNameItKeptAndNoMinorTics)
     const CString strFace = FaceSong();
     EXPECT_EQ(strFace.GetLength(), b[n + 12]);
     EXPECT_EQ(std::string(strFace), std::string(b.begin() + n + 13, b.begin() + n + 13 + b[n + 12]));
+}
+
+TEST(Archive, LabelsAreStoredAsSeenAndEachLoadAddsThem)
+{
+    // A label being typed into: the text on the screen is what is stored.
+    GraphInHost source;
+    source.Show();
+    CGraphPrv* ps = source.Prv();
+    CPoint pt = ps->m_rectPlot.CenterPoint();
+    ::ClientToScreen(ps->m_hWnd, &pt);
+    ASSERT_EQ(GRAPH_OK, source.m_graph.AddFloatingLabel(pt));
+    TestHost::Pump();
+    CFloatingLabel* pLabel = NULL;
+    ASSERT_TRUE(ps->m_mapFloatingLabels.Lookup(2002, pLabel));
+    ::SetWindowTextA(::GetDlgItem(ps->m_hWnd, 2002), "typed");
+    const CRect rect = pLabel->m_rect;
+    const Bytes b = Store(ps);
+
+    // The record at the end, field by field: the rectangle's four numbers,
+    // the data position, the colour, the text, size, face, weight, italic.
+    const Bytes text = { 5, 't', 'y', 'p', 'e', 'd' };
+    const size_t nFace = 1 + strlen(pLabel->m_logFont.lfFaceName);
+    const size_t nRecord = 16 + 8 + 8 + 4 + text.size() + 4 + nFace + 4 + 1;
+    ASSERT_GT(b.size(), nRecord + 4);
+    const size_t n = b.size() - nRecord;
+    EXPECT_EQ(1u, Field<DWORD>(b, n - 4));
+    EXPECT_EQ(rect, CRect(Field<LONG>(b, n), Field<LONG>(b, n + 4), Field<LONG>(b, n + 8), Field<LONG>(b, n + 12)));
+    EXPECT_EQ(pLabel->m_dX, Field<double>(b, n + 16));
+    EXPECT_EQ(text, Bytes(b.begin() + n + 36, b.begin() + n + 36 + text.size()));
+    EXPECT_EQ((DWORD)pLabel->m_nPointSize, Field<DWORD>(b, n + 42));
+    EXPECT_EQ(0u, b.back());   // not italic: one byte, last
+
+    // Loaded twice into another graph: two labels, 2002 and 2003, each as
+    // stored; storing after the first load gives the same bytes.
+    GraphInHost loaded;
+    loaded.Show();
+    CGraphPrv* pl = loaded.Prv();
+    Load(pl, b);
+    EXPECT_EQ(b, Store(pl));
+    Load(pl, b);
+    ASSERT_EQ(2, pl->m_mapFloatingLabels.GetCount());
+    for (WORD wId : { 2002, 2003 }) {
+        CFloatingLabel* pLoaded = NULL;
+        ASSERT_TRUE(pl->m_mapFloatingLabels.Lookup(wId, pLoaded)) << wId;
+        EXPECT_EQ(rect, pLoaded->m_rect);
+        EXPECT_EQ("typed", TextOf(::GetDlgItem(pl->m_hWnd, wId)));
+    }
 }

@@ -86,7 +86,22 @@ TEST(Fuzz, MutatedArchivesLoadOrRaiseTheirExceptionAndTheGraphStaysUsable)
     CanvasGraph canvas(240, 180);
     CGraphPrv* p = canvas.Prv();
     const Bytes good = Store(p);
-    const Bytes aBases[] = { good, Store(rich.m_pGraphPrv), Store(lined.m_pGraphPrv) };
+    // A stream with one label, its record made by hand at the end.
+    Bytes labelled = Store(lined.m_pGraphPrv);
+    const size_t nLabelCount = labelled.size() - 4;
+    PutField<DWORD>(labelled, nLabelCount, 1);
+    const LONG alRect[4] = { 10, 20, 60, 40 };
+    labelled.insert(labelled.end(), (const BYTE*)alRect, (const BYTE*)alRect + sizeof(alRect));
+    for (double d : { 1.5, 2.5 })
+        labelled.insert(labelled.end(), (const BYTE*)&d, (const BYTE*)&d + sizeof(d));
+    const BYTE abRest[] = { 0xFF, 0, 0, 0, 2, 'h', 'i', 100, 0, 0, 0, 5, 'A', 'r', 'i', 'a', 'l', 0xBC, 2, 0, 0, 1 };
+    labelled.insert(labelled.end(), abRest, abRest + sizeof(abRest));
+    const Bytes aBases[] = { good, Store(rich.m_pGraphPrv), Store(lined.m_pGraphPrv), labelled };
+    ASSERT_EQ(-1, LoadCause(p, labelled));
+    ASSERT_EQ(1, p->m_mapFloatingLabels.GetCount());
+    p->RemoveAllFloatingLabels();
+    p->RemoveAllReferenceLines();
+    Load(p, good);
     canvas.Plot();
     const int nInkBefore = canvas.m_dib.CountAll(WHITE);
 
@@ -113,6 +128,7 @@ TEST(Fuzz, MutatedArchivesLoadOrRaiseTheirExceptionAndTheGraphStaysUsable)
             canvas.Plot();
         }
         p->RemoveAllReferenceLines();
+        p->RemoveAllFloatingLabels();
         Load(p, good);
         nNotRestored += Store(p) != good;
         return bRaised;
@@ -128,9 +144,12 @@ TEST(Fuzz, MutatedArchivesLoadOrRaiseTheirExceptionAndTheGraphStaysUsable)
         Bytes mutated(aBases[2]);
         PutField<DWORD>(mutated, 64, 1000000 + random.Below(0x7FFFFFFF));
         Try(mutated);
+        mutated = labelled;
+        PutField<DWORD>(mutated, nLabelCount, 1000000 + random.Below(0x7FFFFFFF));
+        Try(mutated);
     }
     while (nLoads < 10000) {
-        Bytes mutated(aBases[random.Below(3)]);
+        Bytes mutated(aBases[random.Below(4)]);
         for (int nFlips = 1 + random.Below(4); nFlips > 0; nFlips--)
             mutated[random.Below(mutated.size())] ^= (BYTE)(1 << random.Below(8));
         if (random.Below(4) == 0)
