@@ -29,11 +29,13 @@
 #include <stdio.h>
 #include <string.h>
 #include <vector>
+#include "demo/Copies.h"
 #include "demo/PictureFile.h"
 
 namespace {
 
-const int kGraphId = 100;
+const int kGraphId = 100;          // the first graph; the two below it follow
+const int kLowerHeight = 230;      // height of the two small graphs under the first
 const UINT kResetViewId = 40001;   // the host's own entry of the context menu
 
 // The host's variables of the two marker lines: the graph writes them.
@@ -185,15 +187,36 @@ void ShowMarkers(HWND hFrame)
     ::SetWindowTextA(hFrame, sz);
 }
 
+// The three graphs of the window: the first above, the copies under it.
+struct DemoGraphs
+{
+    CGraph* pMain;
+    CGraph* pFromArchive;
+    CGraph* pFromRegistry;
+};
+
+// Where each graph stands in a client area of nWidth x nHeight.
+void GraphRects(int nWidth, int nHeight, CRect& rectMain, CRect& rectLeft, CRect& rectRight)
+{
+    rectMain.SetRect(8, 8, nWidth - 8, nHeight - kLowerHeight - 16);
+    rectLeft.SetRect(8, nHeight - kLowerHeight - 8, nWidth / 2 - 4, nHeight - 8);
+    rectRight.SetRect(nWidth / 2 + 4, nHeight - kLowerHeight - 8, nWidth - 8, nHeight - 8);
+}
+
 LRESULT CALLBACK FrameProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
-    CGraph* pGraph = (CGraph*)::GetWindowLongPtrA(hWnd, GWLP_USERDATA);
+    DemoGraphs* pGraphs = (DemoGraphs*)::GetWindowLongPtrA(hWnd, GWLP_USERDATA);
+    CGraph* pGraph = pGraphs != NULL ? pGraphs->pMain : NULL;
     switch (nMsg) {
     case WM_SIZE:
-        if (pGraph != NULL && pGraph->m_pGraphPrv != NULL) {
-            CRect rect(8, 8, LOWORD(lParam) - 8, HIWORD(lParam) - 8);
-            pGraph->ReSizeGraph(&rect);
-            pGraph->Replot();
+        if (pGraphs != NULL) {
+            CRect aRects[3];
+            GraphRects(LOWORD(lParam), HIWORD(lParam), aRects[0], aRects[1], aRects[2]);
+            CGraph* apGraphs[3] = { pGraphs->pMain, pGraphs->pFromArchive, pGraphs->pFromRegistry };
+            for (int i = 0; i < 3; i++) {
+                apGraphs[i]->ReSizeGraph(&aRects[i]);
+                apGraphs[i]->Replot();
+            }
         }
         return 0;
     case WM_COMMAND:
@@ -320,6 +343,62 @@ void PumpFor(DWORD nMs)
         Pump();
         ::Sleep(5);
     }
+}
+
+// The first graph's labels: one dropped through the context menu (or, in
+// the window demo, by the host), one in a font and colour of its own. The
+// new label's editor has the focus; it takes the text (as a paste would:
+// typed text stays within the editor's present size) and Escape ends the
+// editing, which sizes the label to its text.
+void TypeIntoLabel(const char* pszText)
+{
+    HWND hEdit = ::GetFocus();
+    ::SetWindowTextA(hEdit, pszText);
+    ::SendMessageA(hEdit, WM_CHAR, VK_ESCAPE, 1);
+}
+
+void AddDemoLabels(CGraph& graph, bool bThroughMenu)
+{
+    HWND hGraph = graph.m_pGraphPrv->m_hWnd;
+    auto screenAt = [&graph, hGraph](double x, double y) {
+        CPoint pt(graph.DataToPixelX(x), graph.DataToPixelY(y, 0));
+        ::ClientToScreen(hGraph, &pt);
+        return pt;
+    };
+    const CPoint ptFirst = screenAt(1.6, 9.0);
+    if (bThroughMenu) {
+        printf("right click in the plot: the context menu, its label entry chosen\n");
+        g_cMenuChoice = 'l';
+        ::SetCursorPos(ptFirst.x, ptFirst.y);
+        ::SetTimer(NULL, 0, 50, ChooseFromMenu);
+        CPoint ptClient = ptFirst;
+        ::ScreenToClient(hGraph, &ptClient);
+        ::SendMessageA(hGraph, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(ptClient.x, ptClient.y));
+        ::SendMessageA(hGraph, WM_RBUTTONUP, 0, MAKELPARAM(ptClient.x, ptClient.y));
+        Pump();
+    } else {
+        graph.AddFloatingLabel(ptFirst);
+        Pump();
+    }
+    TypeIntoLabel("damped, 6 rad/s");
+
+    // The second label: larger, italic, dark red, as the label's own font
+    // and colour dialogs would set it.
+    static LOGFONT s_lf;   // lives until the posted message is handled
+    graph.AddFloatingLabel(screenAt(6.2, 8.2));
+    Pump();
+    const WORD wId = (WORD)::GetDlgCtrlID(::GetFocus());
+    TypeIntoLabel("level steps");
+    memset(&s_lf, 0, sizeof(s_lf));
+    lstrcpyA(s_lf.lfFaceName, "Arial");
+    s_lf.lfWeight = FW_BOLD;
+    s_lf.lfItalic = TRUE;
+    ::PostMessageA(hGraph, WM_GRAPH_SETLABELCOLOR, wId, RGB(160, 0, 0));
+    ::PostMessageA(hGraph, WM_GRAPH_SETLABELPOINTSIZE, wId, 140);
+    ::PostMessageA(hGraph, WM_GRAPH_SETLABELFONT, wId, (LPARAM)&s_lf);
+    Pump();
+    graph.Replot();
+    ::UpdateWindow(hGraph);
 }
 
 // The legend, the marker lines and the cross hair, driven as a user would;
@@ -503,31 +582,59 @@ int main(int argc, char** argv)
     DemoData data;
     MakeData(data);
 
-    HWND hFrame = CreateFrame(1040, 680);
+    HWND hFrame = CreateFrame(1040, 900);
     CWnd frame;
     frame.Attach(hFrame);
 
     int nExit = 0;
     {
-        CGraph graph;
+        CGraph graph, fromArchive, fromRegistry;
         PrintingSink sink;
         RECT rcClient;
         ::GetClientRect(hFrame, &rcClient);
-        CRect rect(8, 8, rcClient.right - 8, rcClient.bottom - 8);
-        graph.CreateGraph(&frame, NULL, rect, GS_RIGHTAXIS, kGraphId, 63);
+        CRect rectMain, rectLeft, rectRight;
+        GraphRects(rcClient.right, rcClient.bottom, rectMain, rectLeft, rectRight);
+        graph.CreateGraph(&frame, NULL, rectMain, GS_RIGHTAXIS, kGraphId, 63);
         SetUpGraph(graph, data);
         graph.EnableNotifications(&sink, 0x1FFF);
         CString strReset("Reset &view");
         graph.AddMenuItem(strReset, kResetViewId, 0, &frame);
-        ::SetWindowLongPtrA(hFrame, GWLP_USERDATA, (LONG_PTR)&graph);
         graph.ShowGraph();
         ::ShowWindow(hFrame, SW_SHOW);
         ::UpdateWindow(hFrame);
+        AddDemoLabels(graph, bHeadless);
+
+        // The copies: the noise and the staircase, under the first graph's
+        // settings from its archive, and under its look from the registry.
+        fromArchive.CreateGraph(&frame, NULL, rectLeft, GS_RIGHTAXIS, kGraphId + 1, 63);
+        fromRegistry.CreateGraph(&frame, NULL, rectRight, GS_RIGHTAXIS, kGraphId + 2, 63);
+        for (CGraph* pCopy : { &fromArchive, &fromRegistry }) {
+            pCopy->AddPlotData("noise", PLOT_YLEFT, data.noiseX.data(), data.noiseY.data(),
+                               (long)data.noiseX.size(), RGB(0, 150, 0), PS_DOT, 0);
+            pCopy->AddPlotData("level", PLOT_YRIGHT, data.stepX.data(), data.stepY.data(),
+                               (long)data.stepX.size(), RGB(200, 0, 0), PS_SOLID, 0);
+        }
+        nExit |= FillFromArchive(graph, fromArchive);
+        fromArchive.SetGraphTitle("from the first graph's archive");
+        // The loaded font changes the margins, and the loaded labels go to
+        // their data positions in this graph: a new layout does both.
+        fromArchive.ReSizeGraph(&rectLeft);
+        fromRegistry.SetGraphTitle("the first graph's look, through the registry");
+        fromRegistry.SetXAxisNumFmt("%.1f");
+        fromRegistry.SetYAxisNumFmt(0, "%.1f");
+        fromRegistry.SetYAxisNumFmt(1, "%.0f");
+        nExit |= TakeLookThroughRegistry(graph, fromRegistry);
+        fromArchive.ShowGraph();
+        fromRegistry.ShowGraph();
+        DemoGraphs graphs = { &graph, &fromArchive, &fromRegistry };
+        ::SetWindowLongPtrA(hFrame, GWLP_USERDATA, (LONG_PTR)&graphs);
+
         graph.ShowLegend(TRUE);
         graph.AddMarkerLine(&frame, ML_DOUBLE, "noise", &g_dMarker1, &g_dMarker2, FALSE);
         ShowMarkers(hFrame);
         if (bHeadless) {
-            nExit = DriveHeadless(graph, sink);
+            if (nExit == 0)
+                nExit = DriveHeadless(graph, sink);
             if (nExit == 0)
                 nExit = DriveTools(graph, hFrame);
         } else {
@@ -539,6 +646,8 @@ int main(int argc, char** argv)
         }
         ::SetWindowLongPtrA(hFrame, GWLP_USERDATA, 0);
         graph.RemoveAllPlotData();
+        fromArchive.RemoveAllPlotData();
+        fromRegistry.RemoveAllPlotData();
     }
     frame.Detach();
     if (::IsWindow(hFrame))

@@ -241,6 +241,9 @@ void CFloatingLabel::SetFont(LOGFONT* pLogFont)
     // The size that came before the font sets its height.
     memmove(&m_logFont, pLogFont, sizeof(LOGFONT));
     m_logFont.lfHeight = m_nPointSize;
+    // The editor keeps the look it shows (and stores) in step, whoever sent it.
+    if (m_pEdit != NULL)
+        m_pEdit->SetFont(&m_logFont, m_nPointSize);
     m_font.DeleteObject();
     if (m_pEdit == NULL || m_pEdit->m_hWnd == NULL) {
         m_font.CreatePointFontIndirect(&m_logFont, NULL);
@@ -257,11 +260,15 @@ void CFloatingLabel::SetFont(LOGFONT* pLogFont)
 void CFloatingLabel::SetPointSize(int nPointSize)
 {
     m_nPointSize = nPointSize;
+    if (m_pEdit != NULL)
+        m_pEdit->SetFont(NULL, nPointSize);
 }
 
 void CFloatingLabel::SetColor(COLORREF crColor)
 {
     m_crText = crColor;
+    if (m_pEdit != NULL)
+        m_pEdit->SetColor(crColor);
 }
 
 // --- Drawing ---------------------------------------------------------------------

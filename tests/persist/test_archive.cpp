@@ -3,6 +3,7 @@
 // keeps when the stream is cut short or loaded twice, and what a copy stores.
 #include "Archives.h"
 #include "interact/FloatingLabel.h"
+#include "resources/messages.h"
 #include <string>
 
 namespace {
@@ -219,22 +220,29 @@ TEST(Archive, LabelsAreStoredAsSeenAndEachLoadAddsThem)
     CFloatingLabel* pLabel = NULL;
     ASSERT_TRUE(ps->m_mapFloatingLabels.Lookup(2002, pLabel));
     ::SetWindowTextA(::GetDlgItem(ps->m_hWnd, 2002), "typed");
+    // A look set by the graph's messages, as the label's dialogs send them.
+    LOGFONT lf;
+    memset(&lf, 0, sizeof(lf));
+    lstrcpyA(lf.lfFaceName, "Arial");
+    lf.lfWeight = FW_BOLD;
+    lf.lfItalic = TRUE;
+    ::SendMessageA(ps->m_hWnd, WM_GRAPH_SETLABELCOLOR, 2002, RGB(160, 0, 0));
+    ::SendMessageA(ps->m_hWnd, WM_GRAPH_SETLABELPOINTSIZE, 2002, 140);
+    ::SendMessageA(ps->m_hWnd, WM_GRAPH_SETLABELFONT, 2002, (LPARAM)&lf);
     const CRect rect = pLabel->m_rect;
     const Bytes b = Store(ps);
 
     // The record at the end, field by field: the rectangle's four numbers,
     // the data position, the colour, the text, size, face, weight, italic.
-    const Bytes text = { 5, 't', 'y', 'p', 'e', 'd' };
-    const size_t nFace = 1 + strlen(pLabel->m_logFont.lfFaceName);
-    const size_t nRecord = 16 + 8 + 8 + 4 + text.size() + 4 + nFace + 4 + 1;
+    const Bytes tail = { 5, 't', 'y', 'p', 'e', 'd', 140, 0, 0, 0, 5, 'A', 'r', 'i', 'a', 'l', 0xBC, 2, 0, 0, 1 };
+    const size_t nRecord = 16 + 8 + 8 + 4 + tail.size();
     ASSERT_GT(b.size(), nRecord + 4);
     const size_t n = b.size() - nRecord;
     EXPECT_EQ(1u, Field<DWORD>(b, n - 4));
     EXPECT_EQ(rect, CRect(Field<LONG>(b, n), Field<LONG>(b, n + 4), Field<LONG>(b, n + 8), Field<LONG>(b, n + 12)));
     EXPECT_EQ(pLabel->m_dX, Field<double>(b, n + 16));
-    EXPECT_EQ(text, Bytes(b.begin() + n + 36, b.begin() + n + 36 + text.size()));
-    EXPECT_EQ((DWORD)pLabel->m_nPointSize, Field<DWORD>(b, n + 42));
-    EXPECT_EQ(0u, b.back());   // not italic: one byte, last
+    EXPECT_EQ(RGB(160, 0, 0), Field<DWORD>(b, n + 32));
+    EXPECT_EQ(tail, Bytes(b.begin() + n + 36, b.end()));
 
     // Loaded twice into another graph: two labels, 2002 and 2003, each as
     // stored; storing after the first load gives the same bytes.
