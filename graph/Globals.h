@@ -25,3 +25,4 @@ BOOL BuildBaseColors();
 BOOL BuildCustomColors();
 void FreeColorTables();
 BOOL RegisterPaletteWindowClass();
+void UnregisterPaletteWindowClass();

@@ -37,6 +37,7 @@ void ProcessDetach()
 {
     SaveGraphConfig();   // only if a graph was made in this process
     FreeColorTables();
+    UnregisterPaletteWindowClass();
     AfxTermExtensionModule(g_GraphExtensionModule);
 }
 
