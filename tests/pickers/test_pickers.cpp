@@ -331,3 +331,56 @@ TEST(Wells, HundredsOfWellsLeaveNoGdiObjects)
     EXPECT_EQ(150u, owner.m_values.size());
     EXPECT_EQ(nBefore, CGdiObject::GetLiveCount());
 }
+
+namespace {
+
+// Ends the colour dialog from inside its loop: types red, green and blue
+// and presses OK, or presses Cancel. Notes whether the well stood hidden.
+struct DialogScript { HWND hWell; bool bOk, bWellHidden, bDone; } s_script;
+
+BOOL CALLBACK FindDialog(HWND hWnd, LPARAM lParam)
+{
+    char szClass[16];
+    ::GetClassNameA(hWnd, szClass, sizeof(szClass));
+    if (lstrcmpA(szClass, "#32770") == 0 && ::IsWindowVisible(hWnd))
+        *(HWND*)lParam = hWnd;
+    return TRUE;
+}
+
+void CALLBACK RunDialog(HWND, UINT, UINT_PTR nTimer, DWORD)
+{
+    HWND hDialog = NULL;
+    ::EnumThreadWindows(::GetCurrentThreadId(), FindDialog, (LPARAM)&hDialog);
+    if (hDialog == NULL)
+        return;
+    ::KillTimer(NULL, nTimer);
+    s_script.bWellHidden = ::IsWindow(s_script.hWell) && !::IsWindowVisible(s_script.hWell);
+    if (s_script.bOk) {
+        ::SetDlgItemTextA(hDialog, 706, "10");
+        ::SetDlgItemTextA(hDialog, 707, "20");
+        ::SetDlgItemTextA(hDialog, 708, "30");
+    }
+    ::PostMessageA(hDialog, WM_COMMAND, s_script.bOk ? IDOK : IDCANCEL, 0);
+    s_script.bDone = true;
+}
+
+} // namespace
+
+TEST(Wells, TheOtherButtonChoosesInTheColourDialog)
+{
+    PickerDialog dlg;
+    for (bool bOk : { true, false }) {
+        Owner owner;
+        CColorWell* pWell = new CColorWell;
+        pWell->OpenUnder(&dlg.m_button, &owner);
+        s_script = DialogScript{ pWell->m_hWnd, bOk, false, false };
+        ::SetTimer(NULL, 0, 50, RunDialog);
+        Send(s_script.hWell, WM_LBUTTONDOWN, 40, 106);   // in the button under the grid
+        EXPECT_TRUE(s_script.bDone);
+        EXPECT_TRUE(s_script.bWellHidden);   // and not closed by its lost focus
+        EXPECT_FALSE(::IsWindow(s_script.hWell));
+        EXPECT_EQ(bOk ? 1u : 0u, owner.m_values.size());
+        if (bOk && !owner.m_values.empty())
+            EXPECT_EQ(RGB(10, 20, 30), owner.m_values[0]);
+    }
+}
