@@ -380,7 +380,8 @@ TEST(Wells, TheOtherButtonChoosesInTheColourDialog)
         EXPECT_TRUE(s_script.bWellHidden);   // and not closed by its lost focus
         EXPECT_FALSE(::IsWindow(s_script.hWell));
         EXPECT_EQ(bOk ? 1u : 0u, owner.m_values.size());
-        if (bOk && !owner.m_values.empty())
+        if (bOk && !owner.m_values.empty()) {
             EXPECT_EQ(RGB(10, 20, 30), owner.m_values[0]);
+        }
     }
 }
