@@ -225,6 +225,24 @@ LRESULT CALLBACK AfxCbtFilterHook(int code, WPARAM wParam, LPARAM lParam)
     return ::CallNextHookEx(t_hHookCbt, code, wParam, lParam);
 }
 
+void AFXAPI AfxHookWindowCreate(CWnd* pWnd)
+{
+    if (t_hHookCbt == NULL)
+        t_hHookCbt = ::SetWindowsHookExA(WH_CBT, AfxCbtFilterHook, NULL, ::GetCurrentThreadId());
+    t_pWndInit = pWnd;
+}
+
+BOOL AFXAPI AfxUnhookWindowCreate()
+{
+    if (t_hHookCbt != NULL) {
+        ::UnhookWindowsHookEx(t_hHookCbt);
+        t_hHookCbt = NULL;
+    }
+    BOOL bBound = t_pWndInit == NULL;
+    t_pWndInit = NULL;
+    return bBound;
+}
+
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle,
                     int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
                     LPVOID lpParam)

@@ -1,9 +1,12 @@
-// The system's common dialogs for colours and fonts, as modal dialogs of the
+// Dialogs of the layer in one include: CDialog with data exchange, property
+// sheets, and the system's common dialogs for colours and fonts, as modal dialogs of the
 // layer: the CHOOSECOLOR and CHOOSEFONT records are public, set up by the
 // constructors and open to the caller before DoModal.
 #pragma once
 
 #include "afx/afxwnd.h"
+#include "afx/afxdialog.h"
+#include "afx/afxprop.h"
 #include <commdlg.h>
 
 class AFX_EXT_CLASS CCommonDialog : public CWnd

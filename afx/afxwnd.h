@@ -286,6 +286,12 @@ public:
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
     // The visible window under a point in screen coordinates.
     static CWnd* PASCAL WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
+    // The window that should own a modal window of pParent: the parent's
+    // top-level window, or without a parent the application's main window
+    // (else the active window), then its last active popup. With pWndTop the
+    // top-level window behind it is disabled, when enabled and not the owner
+    // itself, and returned for the caller to enable again; else null.
+    static HWND PASCAL GetSafeOwner_(HWND hParent, HWND* pWndTop);
 
     // Device contexts of the window
     CDC* GetDC();                 // released by ReleaseDC
@@ -367,3 +373,8 @@ private:
 AFX_EXT_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 // The message being dispatched on this thread (for Default and reflection).
 AFX_EXT_API const MSG* AFXAPI AfxGetCurrentMessage();
+// Binds the next window made on this thread to pWnd when the system creates
+// it (dialogs and sheets whose windows the system makes). Unhooking reports
+// whether the window was bound.
+AFX_EXT_API void AFXAPI AfxHookWindowCreate(CWnd* pWnd);
+AFX_EXT_API BOOL AFXAPI AfxUnhookWindowCreate();
