@@ -75,7 +75,7 @@ HWND FindMessageBox(HWND hWndDialog)
         char szClass[16];
         ::GetClassNameA(hWnd, szClass, sizeof(szClass));
         if (hWnd != pFind->hDialog && strcmp(szClass, "#32770") == 0 && ::IsWindowVisible(hWnd) &&
-            ::GetDlgItem(hWnd, 0xFFFF) != NULL)
+            ::GetWindow(hWnd, GW_OWNER) == pFind->hDialog)
             pFind->hBox = hWnd;
         return pFind->hBox == NULL;
     }, (LPARAM)&find);
@@ -233,7 +233,7 @@ TEST(Sheet, PagesAreMadeWhenShownAndExchangeValuesBothWays)
     EXPECT_EQ(NULL, f.one.m_edit.m_hWnd);   // unbound with its window
 }
 
-TEST(Sheet, DISABLED_FailedValidationKeepsThePageWithMessageAndFocus)
+TEST(Sheet, FailedValidationKeepsThePageWithMessageAndFocus)
 {
     SheetFixture f;
     std::string strBad, strRange;
@@ -253,7 +253,9 @@ TEST(Sheet, DISABLED_FailedValidationKeepsThePageWithMessageAndFocus)
             bFocus[0] = ::GetFocus() == hEdit;
             dwSel = (DWORD)::SendMessageA(hEdit, EM_GETSEL, 0, 0);
             SetText(hEdit, "500");
-            ::SendMessageA(f.sheet.m_hWnd, PSM_SETCURSEL, 1, 0);   // leaving the page validates too
+            // Leaving the page validates too; posted, since the message box
+            // that follows must find the timer free.
+            ::PostMessageA(f.sheet.m_hWnd, PSM_SETCURSEL, 1, 0);
             return true;
         },
         [&] { return CloseMessageBox(f.sheet.m_hWnd, strRange); },
