@@ -132,7 +132,6 @@ void CPropertySheet::CommonConstruct(CWnd* pParentWnd, UINT iSelectPage)
     m_psh.dwFlags = PSH_PROPSHEETPAGE;
     m_psh.nStartPage = iSelectPage;
     m_pParentWnd = pParentWnd;
-    m_nModalResult = 0;
 }
 
 CPropertySheet::~CPropertySheet() {}
@@ -215,7 +214,6 @@ int CPropertySheet::DoModal()
     m_psh.nPages = (UINT)nPages;
     m_psh.pszCaption = m_strCaption;
     m_psh.hInstance = AfxGetResourceHandle();
-    m_nModalResult = 0;
 
     HWND hWndTop = NULL;
     m_psh.hwndParent = GetSafeOwner_(m_pParentWnd != NULL ? m_pParentWnd->GetSafeHwnd() : NULL, &hWndTop);
@@ -228,6 +226,8 @@ int CPropertySheet::DoModal()
 
     m_psh.ppsp = NULL;
     delete[] pPages;
+    // The system answers a positive number when OK closed the sheet and all
+    // pages accepted it, 0 when it was cancelled or closed.
     if (nResult < 0)
         return -1;
     return nResult > 0 ? IDOK : IDCANCEL;
@@ -242,12 +242,4 @@ BOOL CPropertySheet::OnInitDialog()
 {
     // The system builds the tabs, the buttons and the first page.
     return (BOOL)Default();
-}
-
-BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
-{
-    UINT nID = LOWORD(wParam);
-    if (nID == IDOK || nID == IDCANCEL)
-        m_nModalResult = (int)nID;
-    return CWnd::OnCommand(wParam, lParam);
 }

@@ -582,6 +582,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     case AfxSig_vMMI:
         (this->*reinterpret_cast<void (CWnd::*)(MINMAXINFO*)>(pfn))((MINMAXINFO*)lParam);
         break;
+    case AfxSig_bHELPINFO:
+        lResult = (this->*reinterpret_cast<BOOL (CWnd::*)(HELPINFO*)>(pfn))((HELPINFO*)lParam);
+        break;
     default:
         return FALSE;
     }
@@ -707,6 +710,7 @@ void CWnd::OnVScroll(UINT, UINT, CWnd* pScrollBar)
         Default();
 }
 void CWnd::OnCaptureChanged(CWnd*) { Default(); }
+BOOL CWnd::OnHelpInfo(HELPINFO*) { return (BOOL)Default(); }
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
 {

@@ -76,12 +76,10 @@ public:
 protected:
     void CommonConstruct(CWnd* pParentWnd, UINT iSelectPage);
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
-    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
 
     CArray<CPropertyPage*, CPropertyPage*> m_pages;
     CString m_strCaption;
     CWnd* m_pParentWnd;
-    int m_nModalResult;   // the last of IDOK and IDCANCEL pressed
 
     DECLARE_MESSAGE_MAP()
 };

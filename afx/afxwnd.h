@@ -47,6 +47,7 @@ enum AfxSig
     AfxSig_vwv,      // void (UINT)                             command ranges
     AfxSig_wp,       // UINT (CPoint)                           OnNcHitTest
     AfxSig_vMMI,     // void (MINMAXINFO*)                      OnGetMinMaxInfo
+    AfxSig_bHELPINFO, // BOOL (HELPINFO*)                       OnHelpInfo
 };
 
 struct AFX_MSGMAP_ENTRY
@@ -174,6 +175,7 @@ protected: \
 #define ON_WM_NCLBUTTONDOWN() _ON_WM(WM_NCLBUTTONDOWN, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcLButtonDown)
 #define ON_WM_NCLBUTTONUP() _ON_WM(WM_NCLBUTTONUP, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcLButtonUp)
 #define ON_WM_NCMOUSEMOVE() _ON_WM(WM_NCMOUSEMOVE, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcMouseMove)
+#define ON_WM_HELPINFO() _ON_WM(WM_HELP, AfxSig_bHELPINFO, BOOL (CWnd::*)(HELPINFO*), OnHelpInfo)
 #define ON_WM_CAPTURECHANGED() _ON_WM(WM_CAPTURECHANGED, AfxSig_vW, void (CWnd::*)(CWnd*), OnCaptureChanged)
 
 // ---------------------------------------------------------------------------
@@ -336,6 +338,9 @@ public:
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CWnd* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CWnd* pScrollBar);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    // F1 or the title bar's question mark: by default the system passes the
+    // request on to the parent.
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
     // Non-client messages: the point is in screen coordinates.
     afx_msg UINT OnNcHitTest(CPoint point);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);

@@ -439,3 +439,50 @@ TEST(Controls, ComboSpinPictureAndHelp)
     }
     EXPECT_EQ(NULL, AfxGetApp());
 }
+
+namespace {
+
+// A sheet that hands help requests for its controls to the host.
+class CHelpSheet : public CPropertySheet
+{
+public:
+    CHelpSheet(CWnd* pParent) : CPropertySheet("Help", pParent) {}
+
+protected:
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo)
+    {
+        AfxGetApp()->WinHelp(pHelpInfo->dwContextId, HELP_WM_HELP);
+        return TRUE;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CHelpSheet, CPropertySheet)
+    ON_WM_HELPINFO()
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST(Sheet, HelpReachesTheHostApplication)
+{
+    TestHost host;
+    CHelpApp app;
+    CPageOne one;
+    CHelpSheet sheet(host.Wnd());
+    sheet.m_psh.dwFlags |= PSH_NOAPPLYNOW | PSH_HASHELP;
+    sheet.AddPage(&one);
+    bool bHelpShown = false;
+    Script script({ [&] {
+        bHelpShown = ::IsWindowVisible(::GetDlgItem(sheet.m_hWnd, IDHELP)) != FALSE;
+        HELPINFO info = { sizeof(HELPINFO), HELPINFO_WINDOW, IDC_TEST_COUNT,
+                          ::GetDlgItem(one.m_hWnd, IDC_TEST_COUNT), 5001, { 0, 0 } };
+        ::SendMessageA(sheet.m_hWnd, WM_HELP, 0, (LPARAM)&info);
+        ::PostMessageA(sheet.m_hWnd, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+        return true;
+    } }, [&] { if (sheet.m_hWnd) ::PostMessageA(sheet.m_hWnd, PSM_PRESSBUTTON, PSBTN_CANCEL, 0); });
+    EXPECT_EQ(IDCANCEL, script.Run([&] { return sheet.DoModal(); }));
+    EXPECT_TRUE(bHelpShown);
+    ASSERT_EQ(1u, app.m_calls.size());
+    EXPECT_EQ(5001u, app.m_calls[0].first);
+    EXPECT_EQ((UINT)HELP_WM_HELP, app.m_calls[0].second);
+}
