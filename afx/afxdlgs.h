@@ -9,7 +9,7 @@
 #include "afx/afxprop.h"
 #include <commdlg.h>
 
-class AFX_EXT_CLASS CCommonDialog : public CWnd
+class AFX_EXT_CLASS CCommonDialog : public CDialog
 {
     DECLARE_DYNAMIC(CCommonDialog)
 public:
@@ -22,8 +22,10 @@ protected:
     // The window that owns the dialog: the top-level window of the parent
     // (the system's dialogs are owned by top-level windows only), or null.
     HWND PreModal() const;
-
-    CWnd* m_pParentWnd;
+    // OK and Cancel belong to the system's dialog: OK validates the data of
+    // a derived class first, then both go on to the system's handling.
+    virtual void OnOK();
+    virtual void OnCancel();
 };
 
 class AFX_EXT_CLASS CColorDialog : public CCommonDialog
