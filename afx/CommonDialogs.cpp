@@ -2,11 +2,26 @@
 #include "afx/afxdlgs.h"
 #include <string.h>
 
-IMPLEMENT_DYNAMIC(CCommonDialog, CWnd)
+IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CColorDialog, CCommonDialog)
 IMPLEMENT_DYNAMIC(CFontDialog, CCommonDialog)
 
-CCommonDialog::CCommonDialog(CWnd* pParentWnd) : m_pParentWnd(pParentWnd) {}
+CCommonDialog::CCommonDialog(CWnd* pParentWnd)
+{
+    m_pParentWnd = pParentWnd;
+}
+
+void CCommonDialog::OnOK()
+{
+    if (!UpdateData(TRUE))
+        return;
+    Default();
+}
+
+void CCommonDialog::OnCancel()
+{
+    Default();
+}
 
 HWND CCommonDialog::PreModal() const
 {

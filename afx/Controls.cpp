@@ -5,6 +5,7 @@ IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
+IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
 CStatic::CStatic() {}
 
@@ -97,4 +98,22 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
     if (pResult != NULL)
         *pResult = TRUE;
     return TRUE;
+}
+
+CComboBox::CComboBox() {}
+
+BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return CWnd::Create("COMBOBOX", NULL, dwStyle, rect, pParentWnd, nID);
+}
+
+void CComboBox::GetLBText(int nIndex, CString& rString) const
+{
+    int nLen = GetLBTextLen(nIndex);
+    if (nLen == CB_ERR) {
+        rString.Empty();
+        return;
+    }
+    GetLBText(nIndex, rString.GetBufferSetLength(nLen));
+    rString.ReleaseBuffer();
 }

@@ -6,6 +6,7 @@
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CMemoryException, CException)
 IMPLEMENT_DYNAMIC(CResourceException, CException)
+IMPLEMENT_DYNAMIC(CUserException, CException)
 
 CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
 CException::~CException() {}
@@ -39,6 +40,7 @@ BOOL CMemoryException::GetErrorMessage(LPSTR lpszError, UINT nMaxError, PUINT pn
 }
 
 CResourceException::CResourceException() {}
+CUserException::CUserException() {}
 
 void AFXAPI AfxThrowMemoryException()
 {
@@ -51,4 +53,9 @@ void AFXAPI AfxThrowMemoryException()
 void AFXAPI AfxThrowResourceException()
 {
     throw new CResourceException;
+}
+
+void AFXAPI AfxThrowUserException()
+{
+    throw new CUserException;
 }

@@ -225,6 +225,24 @@ LRESULT CALLBACK AfxCbtFilterHook(int code, WPARAM wParam, LPARAM lParam)
     return ::CallNextHookEx(t_hHookCbt, code, wParam, lParam);
 }
 
+void AFXAPI AfxHookWindowCreate(CWnd* pWnd)
+{
+    if (t_hHookCbt == NULL)
+        t_hHookCbt = ::SetWindowsHookExA(WH_CBT, AfxCbtFilterHook, NULL, ::GetCurrentThreadId());
+    t_pWndInit = pWnd;
+}
+
+BOOL AFXAPI AfxUnhookWindowCreate()
+{
+    if (t_hHookCbt != NULL) {
+        ::UnhookWindowsHookEx(t_hHookCbt);
+        t_hHookCbt = NULL;
+    }
+    BOOL bBound = t_pWndInit == NULL;
+    t_pWndInit = NULL;
+    return bBound;
+}
+
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle,
                     int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
                     LPVOID lpParam)
@@ -564,6 +582,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     case AfxSig_vMMI:
         (this->*reinterpret_cast<void (CWnd::*)(MINMAXINFO*)>(pfn))((MINMAXINFO*)lParam);
         break;
+    case AfxSig_bHELPINFO:
+        lResult = (this->*reinterpret_cast<BOOL (CWnd::*)(HELPINFO*)>(pfn))((HELPINFO*)lParam);
+        break;
     default:
         return FALSE;
     }
@@ -689,6 +710,7 @@ void CWnd::OnVScroll(UINT, UINT, CWnd* pScrollBar)
         Default();
 }
 void CWnd::OnCaptureChanged(CWnd*) { Default(); }
+BOOL CWnd::OnHelpInfo(HELPINFO*) { return (BOOL)Default(); }
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
 {

@@ -129,9 +129,19 @@ public:
     CResourceException();
 };
 
+// What a validation throws after it has told the user: the catcher only ends
+// the operation, it shows nothing more.
+class AFX_EXT_CLASS CUserException : public CException
+{
+    DECLARE_DYNAMIC(CUserException)
+public:
+    CUserException();
+};
+
 // Throws a CMemoryException* (allocation failures everywhere in the library).
 AFX_EXT_API void AFXAPI AfxThrowMemoryException();
 AFX_EXT_API void AFXAPI AfxThrowResourceException();
+AFX_EXT_API void AFXAPI AfxThrowUserException();
 
 // Test facility: the (nAfter+1)-th following operator new of the library
 // throws CMemoryException, once; a negative nAfter disarms it.

@@ -1,12 +1,15 @@
-// The system's common dialogs for colours and fonts, as modal dialogs of the
+// Dialogs of the layer in one include: CDialog with data exchange, property
+// sheets, and the system's common dialogs for colours and fonts, as modal dialogs of the
 // layer: the CHOOSECOLOR and CHOOSEFONT records are public, set up by the
 // constructors and open to the caller before DoModal.
 #pragma once
 
 #include "afx/afxwnd.h"
+#include "afx/afxdialog.h"
+#include "afx/afxprop.h"
 #include <commdlg.h>
 
-class AFX_EXT_CLASS CCommonDialog : public CWnd
+class AFX_EXT_CLASS CCommonDialog : public CDialog
 {
     DECLARE_DYNAMIC(CCommonDialog)
 public:
@@ -19,8 +22,10 @@ protected:
     // The window that owns the dialog: the top-level window of the parent
     // (the system's dialogs are owned by top-level windows only), or null.
     HWND PreModal() const;
-
-    CWnd* m_pParentWnd;
+    // OK and Cancel belong to the system's dialog: OK validates the data of
+    // a derived class first, then both go on to the system's handling.
+    virtual void OnOK();
+    virtual void OnCancel();
 };
 
 class AFX_EXT_CLASS CColorDialog : public CCommonDialog

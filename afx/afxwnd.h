@@ -47,6 +47,7 @@ enum AfxSig
     AfxSig_vwv,      // void (UINT)                             command ranges
     AfxSig_wp,       // UINT (CPoint)                           OnNcHitTest
     AfxSig_vMMI,     // void (MINMAXINFO*)                      OnGetMinMaxInfo
+    AfxSig_bHELPINFO, // BOOL (HELPINFO*)                       OnHelpInfo
 };
 
 struct AFX_MSGMAP_ENTRY
@@ -174,6 +175,7 @@ protected: \
 #define ON_WM_NCLBUTTONDOWN() _ON_WM(WM_NCLBUTTONDOWN, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcLButtonDown)
 #define ON_WM_NCLBUTTONUP() _ON_WM(WM_NCLBUTTONUP, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcLButtonUp)
 #define ON_WM_NCMOUSEMOVE() _ON_WM(WM_NCMOUSEMOVE, AfxSig_vwp, void (CWnd::*)(UINT, CPoint), OnNcMouseMove)
+#define ON_WM_HELPINFO() _ON_WM(WM_HELP, AfxSig_bHELPINFO, BOOL (CWnd::*)(HELPINFO*), OnHelpInfo)
 #define ON_WM_CAPTURECHANGED() _ON_WM(WM_CAPTURECHANGED, AfxSig_vW, void (CWnd::*)(CWnd*), OnCaptureChanged)
 
 // ---------------------------------------------------------------------------
@@ -286,6 +288,12 @@ public:
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
     // The visible window under a point in screen coordinates.
     static CWnd* PASCAL WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
+    // The window that should own a modal window of pParent: the parent's
+    // top-level window, or without a parent the application's main window
+    // (else the active window), then its last active popup. With pWndTop the
+    // top-level window behind it is disabled, when enabled and not the owner
+    // itself, and returned for the caller to enable again; else null.
+    static HWND PASCAL GetSafeOwner_(HWND hParent, HWND* pWndTop);
 
     // Device contexts of the window
     CDC* GetDC();                 // released by ReleaseDC
@@ -330,6 +338,9 @@ public:
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CWnd* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CWnd* pScrollBar);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    // F1 or the title bar's question mark: by default the system passes the
+    // request on to the parent.
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
     // Non-client messages: the point is in screen coordinates.
     afx_msg UINT OnNcHitTest(CPoint point);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
@@ -367,3 +378,8 @@ private:
 AFX_EXT_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 // The message being dispatched on this thread (for Default and reflection).
 AFX_EXT_API const MSG* AFXAPI AfxGetCurrentMessage();
+// Binds the next window made on this thread to pWnd when the system creates
+// it (dialogs and sheets whose windows the system makes). Unhooking reports
+// whether the window was bound.
+AFX_EXT_API void AFXAPI AfxHookWindowCreate(CWnd* pWnd);
+AFX_EXT_API BOOL AFXAPI AfxUnhookWindowCreate();

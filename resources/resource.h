@@ -27,6 +27,13 @@
 #define IDS_GRAPH_PROPERTIES        14515   /* title of the graph's property sheet when none is given */
 #define IDS_LEGEND_PROPERTIES       14516   /* title of the legend's property sheet */
 
+/* ---- Messages of the class-library layer's data exchange ------------- */
+
+#define AFX_IDP_PARSE_INT           0xF110  /* a field needs a whole number */
+#define AFX_IDP_PARSE_INT_RANGE     0xF111  /* a whole number between %1 and %2 */
+#define AFX_IDP_PARSE_REAL          0xF113  /* a field needs a number */
+#define AFX_IDP_PARSE_REAL_RANGE    0xF114  /* a number between %1 and %2 */
+
 /* ---- Cursor and bitmaps ----------------------------------------------- */
 
 #define IDC_PLOT_CURSOR             14600   /* cross cursor over the plot area, hot spot (12, 12) */
