@@ -203,6 +203,20 @@ public:
         const CPoint pt = Px(x, y, nAxis);
         return m_dib.At(pt.x, pt.y);
     }
+    // The context scaled: logical 400 x 300 on the whole device (800 x 600
+    // makes each logical unit two device pixels), the graph laid out on it.
+    // Gives the plot rectangle in logical units.
+    CRect ScaleToLogical400x300()
+    {
+        CDC* pDC = DC();
+        pDC->SetMapMode(MM_ANISOTROPIC);
+        pDC->SetWindowExt(400, 300);
+        pDC->SetViewportExt(m_dib.m_nWidth, m_dib.m_nHeight);
+        m_graph.SizeGraph(pDC, 0, 0, 400, 300, FALSE);
+        CRect rect;
+        m_graph.GetPlotRect(rect);
+        return rect;
+    }
 
     CRect m_rectPlot;
 };

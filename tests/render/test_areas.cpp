@@ -150,20 +150,15 @@ TEST(AreaShading, AScaledContextShadesInDevicePixels)
 {
     // Logical 400 x 300 on a device twice as large; the outline 3 device pixels wide.
     PlotFixture f(800, 600);
-    CDC* pDC = f.DC();
-    pDC->SetMapMode(MM_ANISOTROPIC);
-    pDC->SetWindowExt(400, 300);
-    pDC->SetViewportExt(800, 600);
-    f.m_graph.SizeGraph(pDC, 0, 0, 400, 300, FALSE);
-    CRect rLogical, rAfter;
-    f.m_graph.GetPlotRect(rLogical);
+    const CRect rLogical = f.ScaleToLogical400x300();
+    CRect rAfter;
     f.Prv()->m_nGridPenWidth = 3;
     f.Add("flat", Xs(), Flat(5.0f), BLUE);
     // A bare curve on one line encloses nothing: its outline alone.
     f.m_graph.AddAreaData("flat", 1, 0, 8, AREA_BASE_CURVE, TEAL, AREA_BRUSH_SOLID);
     f.Plot();
     f.m_graph.GetPlotRect(rAfter);
-    EXPECT_TRUE(rAfter == rLogical && MM_ANISOTROPIC == pDC->GetMapMode());
+    EXPECT_TRUE(rAfter == rLogical && MM_ANISOTROPIC == f.DC()->GetMapMode());
     const int yDevice = (int)(2 * rLogical.bottom + 0.50001 - (2.0 * rLogical.Height() / 10.0) * 5.0);
     const int x = rLogical.left + rLogical.right;
     EXPECT_EQ(3, f.m_dib.Count(x, yDevice - 8, x + 1, yDevice + 9, TEAL));

@@ -210,19 +210,14 @@ TEST(Pipeline, AScaledContextDrawsSeriesInDevicePixels)
 {
     // Logical 400 x 300 on a device twice as large.
     PlotFixture f(800, 600);
-    CDC* pDC = f.DC();
-    pDC->SetMapMode(MM_ANISOTROPIC);
-    pDC->SetWindowExt(400, 300);
-    pDC->SetViewportExt(800, 600);
-    f.m_graph.SizeGraph(pDC, 0, 0, 400, 300, FALSE);
-    CRect rLogical, rAfter;
-    f.m_graph.GetPlotRect(rLogical);
+    const CRect rLogical = f.ScaleToLogical400x300();
+    CRect rAfter;
     CPlotData* pData = f.Add("wide", Xs(), Flat(5.0f), BLUE);
     pData->m_nLineWidth = 3;
     f.Plot();
     f.m_graph.GetPlotRect(rAfter);
     EXPECT_TRUE(rAfter == rLogical);
-    EXPECT_EQ(MM_ANISOTROPIC, pDC->GetMapMode());
+    EXPECT_EQ(MM_ANISOTROPIC, f.DC()->GetMapMode());
     // The series computed on the device's plot rectangle (its corners
     // doubled), drawn with a pen 3 device pixels wide: 3 rows, not 6.
     const int yDevice = (int)(2 * rLogical.bottom + 0.50001 - (2.0 * rLogical.Height() / 10.0) * 5.0);
