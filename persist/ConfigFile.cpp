@@ -47,16 +47,38 @@ BOOL GetGraphConfigPath(LPSTR pszPath)
     return n > 0 && n < MAX_PATH;
 }
 
+namespace {
+
+// Runs body on an archive in nMode over the stream, which it releases;
+// E_FAIL when the archive or the file gave up.
+template <class Body> HRESULT OverStream(IStream* pStream, UINT nMode, Body body)
+{
+    COleStreamFile file;
+    file.Attach(pStream);
+    HRESULT hr = S_OK;
+    try {
+        CArchive ar(&file, nMode, 4096);
+        body(ar);
+        ar.Close();
+    } catch (CException* e) {
+        e->Delete();
+        hr = E_FAIL;
+    }
+    file.Detach();
+    file.Close();
+    pStream->Release();
+    return hr;
+}
+
+} // namespace
+
 HRESULT AFXAPI ReadGraphConfig(IStorage* pStorage, CLineColor* pTable)
 {
     IStream* pStream = NULL;
     HRESULT hr = pStorage->OpenStream(s_wszContents, NULL, STGM_SHARE_EXCLUSIVE | STGM_READ, 0, &pStream);
     if (FAILED(hr))
         return hr;
-    COleStreamFile file;
-    file.Attach(pStream);
-    try {
-        CArchive ar(&file, CArchive::load, 4096);
+    return OverStream(pStream, CArchive::load, [pTable](CArchive& ar) {
         // Each record is read aside and taken only when whole and sound, so
         // a damaged one keeps its default instead of half of the file's.
         for (int i = 0; i < DEFAULT_LINE_COLORS; i++) {
@@ -70,15 +92,7 @@ HRESULT AFXAPI ReadGraphConfig(IStorage* pStorage, CLineColor* pTable)
             pTable[i].m_nAnnotate = entry.m_nAnnotate;
             pTable[i].m_nLineWidth = entry.m_nLineWidth;
         }
-        ar.Close();
-    } catch (CException* e) {
-        e->Delete();
-        hr = E_FAIL;
-    }
-    file.Detach();
-    file.Close();
-    pStream->Release();
-    return hr;
+    });
 }
 
 HRESULT AFXAPI WriteGraphConfig(IStorage* pStorage, CLineColor* pTable)
@@ -87,21 +101,10 @@ HRESULT AFXAPI WriteGraphConfig(IStorage* pStorage, CLineColor* pTable)
     HRESULT hr = pStorage->CreateStream(s_wszContents, STGM_SHARE_EXCLUSIVE | STGM_READWRITE, 0, 0, &pStream);
     if (FAILED(hr))
         return hr;
-    COleStreamFile file;
-    file.Attach(pStream);
-    try {
-        CArchive ar(&file, CArchive::store, 4096);
+    return OverStream(pStream, CArchive::store, [pTable](CArchive& ar) {
         for (int i = 0; i < DEFAULT_LINE_COLORS; i++)
             pTable[i].Serialize(ar);
-        ar.Close();
-    } catch (CException* e) {
-        e->Delete();
-        hr = E_FAIL;
-    }
-    file.Detach();
-    file.Close();
-    pStream->Release();
-    return hr;
+    });
 }
 
 BOOL LoadGraphConfig()
