@@ -1,7 +1,8 @@
 // CDialog: templates through the resource chain, the modal run over the
-// system's dialog manager, initialisation and UpdateData.
+// system's dialog manager, initialisation (with the entries of the template's data) and UpdateData.
 #include "afx/afxdialog.h"
 #include "afx/afxmodule.h"
+#include <string.h>
 
 namespace {
 
@@ -148,12 +149,80 @@ INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT nMsg, WPARAM, LPARAM)
         return TRUE;
     // Nothing thrown may cross the system's dialog manager.
     try {
+        // List and combo box entries of the template come before the
+        // dialog's own initialisation.
+        if (pDlg->m_lpszTemplateName != NULL)
+            pDlg->ExecuteDlgInit(pDlg->m_lpszTemplateName);
         return pDlg->OnInitDialog();
     } catch (CException* e) {
         TRACE("AfxDlgProc: exception in OnInitDialog\n");
         e->Delete();
     } catch (...) {
         TRACE("AfxDlgProc: unknown exception in OnInitDialog\n");
+    }
+    return TRUE;
+}
+
+// ---------------------------------------------------------------------------
+// Initialisation data of a template
+// ---------------------------------------------------------------------------
+
+namespace {
+
+// Message codes of the data, as the resource compiler writes them.
+const WORD DLGINIT_LB_ADDSTRING = 0x0401;
+const WORD DLGINIT_CB_ADDSTRING = 0x0403;
+
+} // namespace
+
+BOOL CWnd::ExecuteDlgInit(LPCSTR lpszResourceName)
+{
+    HINSTANCE hInst = AfxFindResourceHandle(lpszResourceName, RT_DLGINIT);
+    HRSRC hResource = ::FindResourceA(hInst, lpszResourceName, RT_DLGINIT);
+    if (hResource == NULL)
+        return TRUE;   // a template without entries
+    HGLOBAL hData = ::LoadResource(hInst, hResource);
+    const BYTE* pData = hData != NULL ? (const BYTE*)::LockResource(hData) : NULL;
+    if (pData == NULL)
+        return FALSE;
+    return ExecuteDlgInit(pData, ::SizeofResource(hInst, hResource));
+}
+
+BOOL CWnd::ExecuteDlgInit(const void* lpResource, DWORD dwSize)
+{
+    // Records of control id, message, length and text, ended by an id of 0.
+    // The texts are UTF-8, as the resource compiler keeps a narrow string,
+    // and reach the control as wide text, whatever the code page.
+    const BYTE* p = (const BYTE*)lpResource;
+    const BYTE* pEnd = p + dwSize;
+    const size_t nHeader = 2 * sizeof(WORD) + sizeof(DWORD);
+    while ((size_t)(pEnd - p) >= sizeof(WORD)) {
+        WORD nIDC, nMsg;
+        DWORD nLen;
+        memcpy(&nIDC, p, sizeof(WORD));
+        if (nIDC == 0)
+            return TRUE;
+        if ((size_t)(pEnd - p) < nHeader)
+            return FALSE;
+        memcpy(&nMsg, p + 2, sizeof(WORD));
+        memcpy(&nLen, p + 4, sizeof(DWORD));
+        p += nHeader;
+        if (nLen > (DWORD)(pEnd - p))
+            return FALSE;
+        UINT nMessage = nMsg == DLGINIT_LB_ADDSTRING ? LB_ADDSTRING : nMsg == DLGINIT_CB_ADDSTRING ? CB_ADDSTRING : 0;
+        HWND hWndCtrl = ::GetDlgItem(m_hWnd, nIDC);
+        if (nMessage != 0 && hWndCtrl != NULL) {
+            const int nBytes = (int)strnlen((const char*)p, nLen);
+            const int nWide = ::MultiByteToWideChar(CP_UTF8, 0, (const char*)p, nBytes, NULL, 0);
+            WCHAR* pszText = new WCHAR[nWide + 1];
+            ::MultiByteToWideChar(CP_UTF8, 0, (const char*)p, nBytes, pszText, nWide);
+            pszText[nWide] = 0;
+            const LRESULT nResult = ::SendMessageW(hWndCtrl, nMessage, 0, (LPARAM)pszText);
+            delete[] pszText;
+            if (nResult == LB_ERR || nResult == LB_ERRSPACE)
+                return FALSE;
+        }
+        p += nLen;
     }
     return TRUE;
 }

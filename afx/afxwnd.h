@@ -7,6 +7,11 @@
 #include "afx/afxtypes.h"
 #include "afx/afxgdi.h"
 
+// Resource type of the list and combo box entries of a dialog template.
+#ifndef RT_DLGINIT
+#define RT_DLGINIT MAKEINTRESOURCE(240)
+#endif
+
 class CWnd;
 class CCmdTarget;
 struct CCreateContext;
@@ -240,6 +245,12 @@ public:
     DWORD GetStyle() const { return (DWORD)::GetWindowLongA(m_hWnd, GWL_STYLE); }
     DWORD GetExStyle() const { return (DWORD)::GetWindowLongA(m_hWnd, GWL_EXSTYLE); }
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    // Adds the entries of a template's initialisation data (resource type
+    // RT_DLGINIT, found through the resource chain) to its list and combo
+    // boxes. FALSE when the data is damaged or a control refuses an entry.
+    BOOL ExecuteDlgInit(LPCSTR lpszResourceName);
+    BOOL ExecuteDlgInit(const void* lpResource, DWORD dwSize);
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }

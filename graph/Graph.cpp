@@ -131,6 +131,7 @@ int CGraph::AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pWnd)
     { return m_pGraphPrv->AddMenuItem(strText, dwId, nPosition, pWnd); }
 int CGraph::RemoveMenuItem(DWORD dwId) { return m_pGraphPrv->RemoveMenuItem(dwId); }
 int CGraph::RemoveAllMenuItems() { return m_pGraphPrv->RemoveAllMenuItems(); }
+int CGraph::Properties(CString& strTitle) { return m_pGraphPrv->Properties(strTitle); }
 int CGraph::AddPropertyPage(CPropertyPage* pPage, DWORD dwId) { return m_pGraphPrv->AddPropertyPage(pPage, dwId); }
 int CGraph::RemovePropertyPage(DWORD dwId) { return m_pGraphPrv->RemovePropertyPage(dwId); }
 int CGraph::SetPropertyPageConfiguration(long lConfig) { return m_pGraphPrv->SetPropertyPageConfiguration(lConfig); }

@@ -126,6 +126,9 @@ public:
     int AddMenuItem(CString& strText, DWORD dwId, int nPosition, CWnd* pWnd);
     int RemoveMenuItem(DWORD dwId);
     int RemoveAllMenuItems();
+    // The modal property sheet: 1 after OK, 2 otherwise; an empty title
+    // gives the library's own.
+    int Properties(CString& strTitle);
     int AddPropertyPage(CPropertyPage* pPage, DWORD dwId);
     int RemovePropertyPage(DWORD dwId);
     int SetPropertyPageConfiguration(long lConfig);

@@ -421,6 +421,10 @@ private:
     int SaveFontToRegistry(HKEY hKey, const CString& strSubkey, LOGFONT& lf, int nPointSize, DWORD crColor);
     int LoadFontFromRegistry(HKEY hKey, const CString& strSubkey, LOGFONT& lf, int& nPointSize, DWORD& crColor);
 
+    // ---- sheet/ (private) ---------------------------------------------------
+    // The limits and scaling settings of the limits page, after OK.
+    void ApplyPageLimits(const class CLimitsPage& page);
+
     // The facade forwards the transforms; the limit editor reports through
     // NotifyApplication. Tests reach the internals through one friend of theirs.
     friend class CGraph;

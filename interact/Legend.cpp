@@ -299,8 +299,3 @@ BOOL CLegend::OnCommand(WPARAM wParam, LPARAM lParam)
         ::SendMessageA(::GetParent(m_hWnd), WM_GRAPH_LEGENDPOSCHANGE, 0, 0);
     return CListBox::OnCommand(wParam, lParam);
 }
-
-void CLegend::Options()
-{
-    // Placeholder: the legend's property sheet with its auto-hide page opens here.
-}

@@ -91,7 +91,7 @@ private:
     CRect RectInParent() const;
     // Moves the window to rcTarget over a fixed time.
     void Slide(const CRect& rcTarget);
-    // The legend's own property sheet; it comes with the sheet's pages.
+    // The legend's own property sheet, with its one page (sheet/LegendOptions.cpp).
     void Options();
     void FreeEntries();
 };
