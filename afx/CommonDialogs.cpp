@@ -36,7 +36,8 @@ CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd) : 
     memset(&m_cc, 0, sizeof(m_cc));
     m_cc.lStructSize = sizeof(m_cc);
     m_cc.lpCustColors = GetSavedCustomColors();
-    m_cc.Flags = dwFlags;
+    m_cc.Flags = dwFlags | CC_ENABLEHOOK;
+    m_cc.lpfnHook = AfxCommDlgProc;
     if ((m_cc.rgbResult = clrInit) != 0)
         m_cc.Flags |= CC_RGBINIT;
 }
@@ -61,7 +62,21 @@ void CColorDialog::SetCurrentColor(COLORREF clr)
 int CColorDialog::DoModal()
 {
     m_cc.hwndOwner = PreModal();
-    return ::ChooseColorA(&m_cc) ? IDOK : IDCANCEL;
+    // The first window the system makes is the dialog: it is bound to this
+    // object before its first message, as a CDialog's is.
+    AfxHookWindowCreate(this);
+    const BOOL bOK = ::ChooseColorA(&m_cc);
+    AfxUnhookWindowCreate();
+    return bOK ? IDOK : IDCANCEL;
+}
+
+UINT_PTR CALLBACK AfxCommDlgProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
+{
+    // The window procedure of the bound dialog has run the object's map
+    // already; the system's dialog goes on with everything but the start.
+    if (nMsg == WM_INITDIALOG)
+        return (UINT_PTR)AfxDlgProc(hWnd, nMsg, wParam, lParam);
+    return 0;
 }
 
 // --- CFontDialog --------------------------------------------------------------

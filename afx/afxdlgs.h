@@ -33,6 +33,10 @@ class AFX_EXT_CLASS CColorDialog : public CCommonDialog
     DECLARE_DYNAMIC(CColorDialog)
 public:
     // dwFlags are CC_ flags; a non-zero clrInit is the colour first shown.
+    // The dialog runs with the layer's hook (CC_ENABLEHOOK): its window is
+    // bound to this object, so that OnInitDialog and the message map see it,
+    // also on a template of the caller's (CC_ENABLETEMPLATE, with
+    // m_cc.hInstance and m_cc.lpTemplateName).
     explicit CColorDialog(COLORREF clrInit = 0, DWORD dwFlags = 0, CWnd* pParentWnd = NULL);
 
     virtual int DoModal();
@@ -43,6 +47,10 @@ public:
 
     CHOOSECOLORA m_cc;
 };
+
+// The hook of the common dialogs: WM_INITDIALOG ends in the object's
+// OnInitDialog; every other message has passed the object's map before.
+AFX_EXT_API UINT_PTR CALLBACK AfxCommDlgProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 
 class AFX_EXT_CLASS CFontDialog : public CCommonDialog
 {
