@@ -70,7 +70,8 @@ int CGraphPrv::Properties(CString& strCaption)
     for (int i = 0; i < m_aPropPages.GetSize(); i++)
         sheet.AddPage(m_aPropPages[i]);
 
-    if (sheet.DoModal() != IDOK)
+    // A sheet without pages would show an empty frame: nothing opens.
+    if (sheet.GetPageCount() == 0 || sheet.DoModal() != IDOK)
         return 2;
 
     if (m_lPropPageConfig & PAGE_LINE_COLORS) {
