@@ -50,6 +50,32 @@ inline bool Visible(HWND hPage, int nID) { return (::GetWindowLongA(::GetDlgItem
 inline int EntryCount(HWND hPage, int nID) { return (int)::SendDlgItemMessageA(hPage, nID, CB_GETCOUNT, 0, 0); }
 inline int Selection(HWND hPage, int nID) { return (int)::SendDlgItemMessageA(hPage, nID, CB_GETCURSEL, 0, 0); }
 
+// Centres of the cells of the wells, in the well's client area.
+inline CPoint ColorWellCell(int n) { return CPoint(4 + 18 * (n % 4) + 8, 4 + 18 * (n / 4) + 8); }
+inline CPoint LineWellCell(int n) { return CPoint(20, 4 + 18 * n + 8); }
+inline CPoint AnnotationWellCell(int n) { return CPoint(4 + 24 * (n % 2) + 11, 4 + 18 * (n / 2) + 8); }
+
+// Opens the well of a drop button with a click and picks the cell at pt.
+inline bool PickInWell(HWND hPage, int nButton, CPoint pt)
+{
+    HWND hButton = ::GetDlgItem(hPage, nButton);
+    ::SendMessageA(hButton, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    ::SendMessageA(hButton, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+    HWND hWell = NULL;
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+        char sz[32];
+        ::GetWindowTextA(hWnd, sz, sizeof(sz));
+        if (strstr(sz, "Well") != NULL && ::IsWindowVisible(hWnd))
+            *(HWND*)lParam = hWnd;
+        return TRUE;
+    }, (LPARAM)&hWell);
+    if (hWell == NULL)
+        return false;
+    ::SendMessageA(hWell, WM_MOUSEMOVE, 0, MAKELPARAM(pt.x, pt.y));
+    ::SendMessageA(hWell, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(pt.x, pt.y));
+    return !::IsWindow(hWell);
+}
+
 // A host page that counts its OK.
 class CHostPage : public CPropertyPage
 {

@@ -68,26 +68,6 @@ bool SampleShows(HWND hPage, int nList, int nLine, COLORREF cr)
     return false;
 }
 
-// Opens the well of a drop button and picks cell nCell of it with the mouse.
-void PickInWell(HWND hPage, int nButton, int nCell)
-{
-    HWND hButton = ::GetDlgItem(hPage, nButton);
-    ::SendMessageA(hButton, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-    ::SendMessageA(hButton, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
-    HWND hWell = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
-        char sz[32];
-        ::GetWindowTextA(hWnd, sz, sizeof(sz));
-        if (strstr(sz, "Well") != NULL && ::IsWindowVisible(hWnd))
-            *(HWND*)lParam = hWnd;
-        return TRUE;
-    }, (LPARAM)&hWell);
-    ASSERT_TRUE(hWell != NULL);
-    const CPoint pt(20, 4 + 18 * nCell + 8);   // the middle of a cell of one column
-    ::SendMessageA(hWell, WM_MOUSEMOVE, 0, MAKELPARAM(pt.x, pt.y));
-    ::SendMessageA(hWell, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(pt.x, pt.y));
-}
-
 class LineGraph : public SheetGraph
 {
 public:
@@ -123,8 +103,8 @@ TEST(LineColorsPage, EachModeShowsItsListAndOkWritesIt)
             SelectLine(hPage, IDC_SERIES_LIST, 1);
             crPicked = ClickCell(hPage, IDC_BASE_PALETTE, 9);
             bSampleShows = SampleShows(hPage, IDC_SERIES_LIST, 1, crPicked);
-            PickInWell(hPage, IDC_LINE_STYLE, 2);
-            PickInWell(hPage, IDC_ANNOTATION, 0);
+            PickInWell(hPage, IDC_LINE_STYLE, LineWellCell(2));
+            PickInWell(hPage, IDC_ANNOTATION, AnnotationWellCell(0));
             Press(hSheet, PSBTN_OK);
             return true;
         } }));
