@@ -9,12 +9,27 @@ namespace {
 
 // Allocations left before the one that fails; -1 when none is to fail.
 volatile LONG s_nAllocsBeforeFailure = -1;
+// Blocks allocated by the library and not yet freed.
+volatile LONG s_nLiveBlocks = 0;
+
+void FreeBlock(void* p)
+{
+    if (p != NULL) {
+        ::InterlockedDecrement(&s_nLiveBlocks);
+        free(p);
+    }
+}
 
 } // namespace
 
 void AFXAPI AfxSetAllocFailure(int nAfter)
 {
     ::InterlockedExchange(&s_nAllocsBeforeFailure, nAfter < 0 ? -1 : nAfter);
+}
+
+LONG AFXAPI AfxGetLiveBlockCount()
+{
+    return s_nLiveBlocks;
 }
 
 void* operator new(size_t nSize)
@@ -24,6 +39,7 @@ void* operator new(size_t nSize)
     void* p = malloc(nSize != 0 ? nSize : 1);
     if (p == NULL)
         AfxThrowMemoryException();
+    ::InterlockedIncrement(&s_nLiveBlocks);
     return p;
 }
 
@@ -34,20 +50,20 @@ void* operator new[](size_t nSize)
 
 void operator delete(void* p) noexcept
 {
-    free(p);
+    FreeBlock(p);
 }
 
 void operator delete[](void* p) noexcept
 {
-    free(p);
+    FreeBlock(p);
 }
 
 void operator delete(void* p, size_t) noexcept
 {
-    free(p);
+    FreeBlock(p);
 }
 
 void operator delete[](void* p, size_t) noexcept
 {
-    free(p);
+    FreeBlock(p);
 }

@@ -146,6 +146,9 @@ AFX_EXT_API void AFXAPI AfxThrowUserException();
 // Test facility: the (nAfter+1)-th following operator new of the library
 // throws CMemoryException, once; a negative nAfter disarms it.
 AFX_EXT_API void AFXAPI AfxSetAllocFailure(int nAfter);
+// A test facility: the blocks that the library has allocated with new and
+// not yet freed.
+AFX_EXT_API LONG AFXAPI AfxGetLiveBlockCount();
 
 // ---------------------------------------------------------------------------
 // CString: a narrow string of the ANSI code page with value semantics.

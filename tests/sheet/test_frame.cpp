@@ -211,3 +211,48 @@ TEST(Sheet, OkAppliesLimitsGridAndBackgroundInOrder)
     ASSERT_EQ(1, legend.GetCount());
     EXPECT_EQ(crNew, ((CLegendData*)legend.GetItemDataPtr(0))->m_crBackground);
 }
+
+TEST(Sheet, RepeatedRunsLeakNothing)
+{
+    SheetGraph g;
+    double adX[] = { 0, 10 }, adY[] = { 1, 9 };
+    for (const char* pszName : { "a", "a rather long name that does not fit into the list" })
+        g.m_graph.AddPlotData(pszName, PLOT_YLEFT, adX, adY, 2, RGB(255, 0, 0), PS_SOLID, 0);
+    g.m_graph.SetGraphColorsMode(2);
+    CHostPage host;
+    g.m_graph.AddPropertyPage(&host, 5);
+    // Every page made, records of both lists, a well opened and picked, the
+    // tip of the list shown, the preview painted; OK and Cancel in turn.
+    auto cycle = [&](int i) {
+        return g.Run({ [i](HWND hSheet) {
+            HWND hPage = CurrentPage(hSheet);
+            HWND hList = ::GetDlgItem(hPage, IDC_SERIES_LIST);
+            ::SendMessageA(hList, WM_MOUSEMOVE, 0, MAKELPARAM(60, 25));
+            PickInWell(hPage, IDC_ANNOTATION, AnnotationWellCell(3));
+            for (int nPage = 4; nPage >= 1; nPage--)
+                ::UpdateWindow(ShowPage(hSheet, nPage));
+            Press(hSheet, i % 2 ? PSBTN_OK : PSBTN_CANCEL);
+            return true;
+        } });
+    };
+    auto windows = [] {
+        int n = 0;
+        ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND, LPARAM lParam) -> BOOL { ++*(int*)lParam; return TRUE; },
+                            (LPARAM)&n);
+        return n;
+    };
+    for (int i = 0; i < 4; i++)
+        cycle(i);
+    const LONG nGdiBefore = CGdiObject::GetLiveCount();
+    const LONG nBlocksBefore = AfxGetLiveBlockCount();
+    const SIZE_T nBytesBefore = CommittedBytes();
+    const int nWindowsBefore = windows();
+    int nOK = 0;
+    for (int i = 0; i < 200; i++)
+        nOK += cycle(i) == 1;
+    EXPECT_EQ(100, nOK);
+    EXPECT_EQ(nGdiBefore, CGdiObject::GetLiveCount());
+    EXPECT_EQ(nWindowsBefore, windows());
+    EXPECT_EQ(nBlocksBefore, AfxGetLiveBlockCount());   // pages' records, wells, tips
+    EXPECT_LT(CommittedBytes(), nBytesBefore + 2 * 1024 * 1024) << "before " << nBytesBefore;
+}
