@@ -7,8 +7,9 @@
 // The user zooms with the left button, scales back with a double click,
 // edits a limit by clicking it, drags the marker lines, and has the context
 // menu on the right button (with the cross hair, the legend, the copy, and
-// an entry of the host's own, "Reset view"). Every notification the host
-// hears is printed.
+// an entry of the host's own, "Reset view"). The context menu's properties
+// entry opens the graph's property sheet, with a page of the host's own that
+// sets the graph's title. Every notification the host hears is printed.
 //
 //   graphdemo.exe               the window, until the user closes it
 //   graphdemo.exe --headless    drives the same window with real messages
@@ -18,18 +19,26 @@
 //                               zoomed graph as a picture file; then opens
 //                               the legend, drags a marker line, locks the
 //                               cross hair, writes the graph's own bitmap and
-//                               a capture of the window, and exits
+//                               a capture of the window; then opens the
+//                               property sheet, gives the graph a new
+//                               background, grid and X limits through its
+//                               pages, writes a capture of the sheet and the
+//                               graph's new look, and exits
 //   --english                   looks for the English resource satellite
 #include "graph/Graph.h"
 #include "graph/GraphPrv.h"
 #include "render/AnnotationMark.h"
 #include "resources/messages.h"
+#include "resources/resource.h"
 #include <math.h>
 #include <stdarg.h>
 #include <stdio.h>
 #include <string.h>
+#include <string>
 #include <vector>
 #include "demo/Copies.h"
+#include "demo/DemoPage.h"
+#include "demo/demo_resource.h"
 #include "demo/PictureFile.h"
 
 namespace {
@@ -37,11 +46,29 @@ namespace {
 const int kGraphId = 100;          // the first graph; the two below it follow
 const int kLowerHeight = 230;      // height of the two small graphs under the first
 const UINT kResetViewId = 40001;   // the host's own entry of the context menu
+const DWORD kDemoPageId = 501;     // the host's own page of the property sheet
 
 // The host's variables of the two marker lines: the graph writes them.
 double g_dMarker1 = 2.0, g_dMarker2 = 4.0;
 
+// What an event code of the graph stands for, for the printout.
+const char* EventName(int nCode)
+{
+    switch (nCode) {
+    case GN_LIMITS: return " (limits changed)";
+    case GN_RADAR: return " (scaled to the data)";
+    case GN_ZOOM: return " (zoomed)";
+    case GN_LINECOLORS: return " (line colours page applied)";
+    case GN_APPEARANCE: return " (appearance page applied)";
+    case GN_SETTINGS: return " (settings page applied)";
+    case GN_COPY: return " (copied)";
+    }
+    return "";
+}
+
 // Prints what the host hears. Moves are only counted: there are many.
+// After OK in the property sheet the graph names the host's page: the host
+// then gives the graph the title typed on it.
 class PrintingSink : public CGraphNotify
 {
 public:
@@ -52,12 +79,22 @@ public:
         else
             Print("mouse message 0x%04X at %ld,%ld (screen)", nMessage, pt.x, pt.y);
     }
-    virtual void OnGraphEvent(UINT, int nCode) { Print("event %d", nCode); }
-    virtual void OnGraphPage(UINT, UINT nPage) { Print("property page %u", nPage); }
+    virtual void OnGraphEvent(UINT, int nCode) { Print("event %d%s", nCode, EventName(nCode)); }
+    virtual void OnGraphPage(UINT, UINT nPage)
+    {
+        Print("property page %u (OK pressed)", nPage);
+        if (nPage == kDemoPageId && m_pGraph != NULL && m_pDemoPage != NULL) {
+            m_pGraph->SetGraphTitle(m_pDemoPage->m_strTitle);
+            m_pGraph->Replot();
+        }
+    }
     virtual void OnGraphCommand(UINT, UINT wParam, long) { Print("command %u", wParam); }
     virtual void OnGraphContextMenu(UINT, CPoint pt) { Print("context menu at %ld,%ld", pt.x, pt.y); }
 
     int m_nMoves = 0;
+    std::vector<std::string> m_heard;   // everything printed, in order
+    CGraph* m_pGraph = NULL;            // the graph whose sheet carries the host's page
+    CDemoPage* m_pDemoPage = NULL;
 
 private:
     void Print(const char* pszFormat, ...)
@@ -68,6 +105,7 @@ private:
         _vsnprintf(sz, sizeof(sz) - 1, pszFormat, args);
         va_end(args);
         sz[sizeof(sz) - 1] = '\0';
+        m_heard.push_back(sz);
         printf("  heard: %s\n", sz);
         fflush(stdout);
     }
@@ -566,6 +604,198 @@ int DriveHeadless(CGraph& graph, PrintingSink& sink)
     return WriteGraphPicture(graph, rcGraph.right, rcGraph.bottom);
 }
 
+// The graph's property sheet, driven from a thread timer inside its modal
+// loop: the pages are the four of the graph and the host's own.
+const int kSheetLimits = 1, kSheetAppearance = 2, kSheetHostPage = 4;
+const COLORREF kNewBackground = RGB(255, 246, 214);
+const COLORREF kNewGrid = RGB(0, 140, 170);
+const double kNewXMin = 2.0, kNewXMax = 8.0;
+const DWORD kSheetPatienceMs = 10000;   // then the sheet is cancelled
+
+// The visible top-level window of this thread with a tab control: the sheet.
+HWND FindSheet()
+{
+    HWND hSheet = NULL;
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+        if (::IsWindowVisible(hWnd) && ::FindWindowExA(hWnd, NULL, "SysTabControl32", NULL) != NULL) {
+            *(HWND*)lParam = hWnd;
+            return FALSE;
+        }
+        return TRUE;
+    }, (LPARAM)&hSheet);
+    return hSheet;
+}
+
+// A message box the sheet opened (a value it refused), or null.
+HWND FindMessageBox(HWND hSheet)
+{
+    struct Search { HWND hSheet, hBox; } search = { hSheet, NULL };
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+        Search* pSearch = (Search*)lParam;
+        char szClass[16];
+        ::GetClassNameA(hWnd, szClass, sizeof(szClass));
+        if (hWnd != pSearch->hSheet && ::IsWindowVisible(hWnd) && strcmp(szClass, "#32770") == 0 &&
+            ::GetWindow(hWnd, GW_OWNER) == pSearch->hSheet) {
+            pSearch->hBox = hWnd;
+            return FALSE;
+        }
+        return TRUE;
+    }, (LPARAM)&search);
+    return search.hBox;
+}
+
+struct SheetRun
+{
+    int nStep;
+    DWORD dwStart;
+    bool bGaveUp;
+    int nPictureFailed;
+};
+SheetRun g_sheetRun;
+
+HWND ShowSheetPage(HWND hSheet, int nPage)
+{
+    ::SendMessageA(hSheet, PSM_SETCURSEL, (WPARAM)nPage, 0);
+    return (HWND)::SendMessageA(hSheet, PSM_GETCURRENTPAGEHWND, 0, 0);
+}
+
+// Chooses entry nIndex of a drop-down list as the user would.
+void ChooseEntry(HWND hPage, int nID, int nIndex)
+{
+    HWND hCombo = ::GetDlgItem(hPage, nID);
+    ::SendMessageA(hCombo, CB_SETCURSEL, (WPARAM)nIndex, 0);
+    ::SendMessageA(hPage, WM_COMMAND, MAKEWPARAM(nID, CBN_SELCHANGE), (LPARAM)hCombo);
+}
+
+// Writes what the sheet's window shows to a picture file.
+int WriteSheetPicture(HWND hSheet)
+{
+    RECT rc;
+    ::GetWindowRect(hSheet, &rc);
+    HDC hDC = ::GetWindowDC(hSheet);
+    HBITMAP hDib = CopyToDib(hDC, 0, 0, rc.right - rc.left, rc.bottom - rc.top);
+    ::ReleaseDC(hSheet, hDC);
+    const int nFailed = WriteNamedPicture(hDib, "graphdemo-sheet.png", "the property sheet");
+    ::DeleteObject(hDib);
+    return nFailed;
+}
+
+// One step per tick; a step runs only while the sheet is up. After OK the
+// sheet is gone and the timer idles until the host kills it.
+void CALLBACK DriveSheetStep(HWND, UINT, UINT_PTR, DWORD)
+{
+    HWND hSheet = FindSheet();
+    if (hSheet == NULL)
+        return;
+    if (::GetTickCount() - g_sheetRun.dwStart > kSheetPatienceMs) {
+        // Something held the sheet: close what it shows and cancel it.
+        if (!g_sheetRun.bGaveUp)
+            printf("graphdemo: the property sheet did not close; cancelling it\n");
+        g_sheetRun.bGaveUp = true;
+        HWND hBox = FindMessageBox(hSheet);
+        if (hBox != NULL)
+            ::EndDialog(hBox, IDCANCEL);
+        else
+            ::PostMessageA(hSheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+        return;
+    }
+    HWND hPage;
+    switch (g_sheetRun.nStep) {
+    case 0:
+        printf("appearance page: the background in a new colour, the grid in a new colour, dotted\n");
+        hPage = ShowSheetPage(hSheet, kSheetAppearance);
+        ChooseEntry(hPage, IDC_ITEM, 1);
+        ::SendMessageA(hPage, WM_PICKER_COLOR, IDC_ITEM_COLOR, kNewBackground);
+        ChooseEntry(hPage, IDC_ITEM, 2);
+        ::SendMessageA(hPage, WM_PICKER_COLOR, IDC_ITEM_COLOR, kNewGrid);
+        ::SendMessageA(hPage, WM_PICKER_LINESTYLE, IDC_GRID_STYLE, PS_DOT);
+        // The messages came to the page, not through its buttons: the page
+        // shows the item again from what it keeps.
+        ChooseEntry(hPage, IDC_ITEM, 2);
+        break;
+    case 1: {
+        printf("limits page: X from %g to %g\n", kNewXMin, kNewXMax);
+        hPage = ShowSheetPage(hSheet, kSheetLimits);
+        char sz[32];
+        _snprintf(sz, sizeof(sz), "%g", kNewXMin);
+        ::SetDlgItemTextA(hPage, IDC_X_MIN, sz);
+        _snprintf(sz, sizeof(sz), "%g", kNewXMax);
+        ::SetDlgItemTextA(hPage, IDC_X_MAX, sz);
+        break;
+    }
+    case 2:
+        printf("the host's page: a new title\n");
+        hPage = ShowSheetPage(hSheet, kSheetHostPage);
+        ::SetDlgItemTextA(hPage, IDC_DEMO_TITLE, "ZPXGraph demo, restyled in the property sheet");
+        break;
+    case 3:
+        // Back to the appearance page for the picture, painted in full.
+        ShowSheetPage(hSheet, kSheetAppearance);
+        ::RedrawWindow(hSheet, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        break;
+    case 4:
+        g_sheetRun.nPictureFailed = WriteSheetPicture(hSheet);
+        printf("OK\n");
+        ::PostMessageA(hSheet, PSM_PRESSBUTTON, PSBTN_OK, 0);
+        break;
+    default:
+        break;   // OK was pressed: the patience above ends a sheet that stays
+    }
+    g_sheetRun.nStep++;
+}
+
+// Opens the property sheet on the graph, drives it, and writes the graph's
+// new look. The cross hair goes first: the picture shows the plain graph.
+int DriveSheet(CGraph& graph, PrintingSink& sink)
+{
+    graph.LockCrossHair(FALSE);
+    graph.DisplayCrossHair(FALSE);
+    Pump();
+
+    printf("the property sheet, through Properties\n");
+    g_sheetRun.nStep = 0;
+    g_sheetRun.dwStart = ::GetTickCount();
+    g_sheetRun.bGaveUp = false;
+    g_sheetRun.nPictureFailed = 1;
+    sink.m_heard.clear();
+    const UINT_PTR nTimer = ::SetTimer(NULL, 0, 150, DriveSheetStep);
+    CString strTitle;
+    const int nResult = graph.Properties(strTitle);
+    ::KillTimer(NULL, nTimer);
+    Pump();
+    printf("Properties returned %d\n", nResult);
+    printf("heard from the sheet:");
+    for (size_t i = 0; i < sink.m_heard.size(); i++)
+        printf("%s %s", i == 0 ? "" : ",", sink.m_heard[i].c_str());
+    printf("\n");
+    PrintLimits(graph, "after the property sheet:");
+
+    int nFailed = g_sheetRun.nPictureFailed;
+    double dXMin = 0.0, dXMax = 0.0;
+    graph.GetXAxisLimits(&dXMin, &dXMax);
+    if (nResult != 1 || g_sheetRun.bGaveUp || dXMin != kNewXMin || dXMax != kNewXMax) {
+        printf("graphdemo: the property sheet did not apply its pages\n");
+        nFailed++;
+    }
+
+    HBITMAP hBitmap = graph.GetBitmap();
+    if (hBitmap == NULL) {
+        printf("graphdemo: GetBitmap gave no bitmap\n");
+        return nFailed + 1;
+    }
+    BITMAP bm;
+    ::GetObjectA(hBitmap, sizeof(bm), &bm);
+    HDC hMemory = ::CreateCompatibleDC(NULL);
+    HGDIOBJ hOld = ::SelectObject(hMemory, hBitmap);
+    HBITMAP hDib = CopyToDib(hMemory, 0, 0, bm.bmWidth, bm.bmHeight);
+    ::SelectObject(hMemory, hOld);
+    ::DeleteDC(hMemory);
+    ::DeleteObject(hBitmap);
+    nFailed += WriteNamedPicture(hDib, "graphdemo-properties.png", "the graph's look after the property sheet");
+    ::DeleteObject(hDib);
+    return nFailed;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -599,6 +829,12 @@ int main(int argc, char** argv)
         graph.EnableNotifications(&sink, 0x1FFF);
         CString strReset("Reset &view");
         graph.AddMenuItem(strReset, kResetViewId, 0, &frame);
+        // The host's own page of the property sheet: the graph's title.
+        CDemoPage demoPage;
+        graph.GetGraphTitle(demoPage.m_strTitle);
+        graph.AddPropertyPage(&demoPage, kDemoPageId);
+        sink.m_pGraph = &graph;
+        sink.m_pDemoPage = &demoPage;
         graph.ShowGraph();
         ::ShowWindow(hFrame, SW_SHOW);
         ::UpdateWindow(hFrame);
@@ -637,6 +873,8 @@ int main(int argc, char** argv)
                 nExit = DriveHeadless(graph, sink);
             if (nExit == 0)
                 nExit = DriveTools(graph, hFrame);
+            if (nExit == 0)
+                nExit = DriveSheet(graph, sink);
         } else {
             MSG msg;
             while (::GetMessageA(&msg, NULL, 0, 0) > 0) {
@@ -645,6 +883,7 @@ int main(int argc, char** argv)
             }
         }
         ::SetWindowLongPtrA(hFrame, GWLP_USERDATA, 0);
+        graph.RemovePropertyPage(kDemoPageId);
         graph.RemoveAllPlotData();
         fromArchive.RemoveAllPlotData();
         fromRegistry.RemoveAllPlotData();

@@ -9,7 +9,7 @@ if [ -n "${DISPLAY:-}" ]; then
     exec "$here/withdisplay.sh" wine ./graphdemo.exe
 fi
 "$here/withdisplay.sh" wine ./graphdemo.exe --headless
-for name in graphdemo graphdemo-bitmap graphdemo-window; do
+for name in graphdemo graphdemo-bitmap graphdemo-window graphdemo-sheet graphdemo-properties; do
     for picture in "$name.png" "$name.bmp"; do
         if [ -f "$picture" ]; then
             echo "demo: picture $(pwd)/$picture"
