@@ -56,8 +56,9 @@ CBasePropSheet::CBasePropSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPa
 BOOL CBasePropSheet::OnInitDialog()
 {
     const BOOL bResult = CPropertySheet::OnInitDialog();
-    // The question mark shows only without the modal frame.
-    ModifyStyleEx(WS_EX_DLGMODALFRAME, WS_EX_CONTEXTHELP);
+    // The question mark shows only without the modal frame; the caption is
+    // drawn anew with it.
+    ModifyStyleEx(WS_EX_DLGMODALFRAME, WS_EX_CONTEXTHELP, SWP_FRAMECHANGED);
     return bResult;
 }
 
