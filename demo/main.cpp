@@ -334,6 +334,28 @@ int WriteNamedPicture(HBITMAP hDib, const char* pszName, const char* pszWhat)
     return 0;
 }
 
+// Writes the graph's own bitmap (GetBitmap) to a picture file: 0 when
+// written, 1 when the file failed, -1 without a bitmap.
+int WriteGraphBitmap(CGraph& graph, const char* pszName, const char* pszWhat)
+{
+    HBITMAP hBitmap = graph.GetBitmap();
+    if (hBitmap == NULL) {
+        printf("graphdemo: GetBitmap gave no bitmap\n");
+        return -1;
+    }
+    BITMAP bm;
+    ::GetObjectA(hBitmap, sizeof(bm), &bm);
+    HDC hMemory = ::CreateCompatibleDC(NULL);
+    HGDIOBJ hOld = ::SelectObject(hMemory, hBitmap);
+    HBITMAP hDib = CopyToDib(hMemory, 0, 0, bm.bmWidth, bm.bmHeight);
+    ::SelectObject(hMemory, hOld);
+    ::DeleteDC(hMemory);
+    ::DeleteObject(hBitmap);
+    const int nFailed = WriteNamedPicture(hDib, pszName, pszWhat);
+    ::DeleteObject(hDib);
+    return nFailed;
+}
+
 // Writes what the graph shows, laid out as in its window, to a picture file.
 int WriteGraphPicture(CGraph& graph, int nWidth, int nHeight)
 {
@@ -494,22 +516,9 @@ int DriveTools(CGraph& graph, HWND hFrame)
     graph.LockCrossHair(TRUE);
     Pump();
 
-    int nFailed = 0;
-    HBITMAP hBitmap = graph.GetBitmap();
-    if (hBitmap == NULL) {
-        printf("graphdemo: GetBitmap gave no bitmap\n");
+    int nFailed = WriteGraphBitmap(graph, "graphdemo-bitmap.png", "the graph's bitmap (with the cross hair)");
+    if (nFailed < 0)
         return 1;
-    }
-    BITMAP bm;
-    ::GetObjectA(hBitmap, sizeof(bm), &bm);
-    HDC hMemory = ::CreateCompatibleDC(NULL);
-    HGDIOBJ hOld = ::SelectObject(hMemory, hBitmap);
-    HBITMAP hDib = CopyToDib(hMemory, 0, 0, bm.bmWidth, bm.bmHeight);
-    ::SelectObject(hMemory, hOld);
-    ::DeleteDC(hMemory);
-    ::DeleteObject(hBitmap);
-    nFailed += WriteNamedPicture(hDib, "graphdemo-bitmap.png", "the graph's bitmap (with the cross hair)");
-    ::DeleteObject(hDib);
 
     // The bitmap's plot inverted the point highlights on the window, as any
     // plot into memory does: a paint puts them back. The legend slid back
@@ -521,7 +530,7 @@ int DriveTools(CGraph& graph, HWND hFrame)
     RECT rcFrame;
     ::GetClientRect(hFrame, &rcFrame);
     HDC hFrameDC = ::GetDC(hFrame);
-    hDib = CopyToDib(hFrameDC, 0, 0, rcFrame.right, rcFrame.bottom);
+    HBITMAP hDib = CopyToDib(hFrameDC, 0, 0, rcFrame.right, rcFrame.bottom);
     ::ReleaseDC(hFrame, hFrameDC);
     nFailed += WriteNamedPicture(hDib, "graphdemo-window.png", "the window (legend, marker lines, highlights)");
     ::DeleteObject(hDib);
@@ -778,22 +787,8 @@ int DriveSheet(CGraph& graph, PrintingSink& sink)
         nFailed++;
     }
 
-    HBITMAP hBitmap = graph.GetBitmap();
-    if (hBitmap == NULL) {
-        printf("graphdemo: GetBitmap gave no bitmap\n");
-        return nFailed + 1;
-    }
-    BITMAP bm;
-    ::GetObjectA(hBitmap, sizeof(bm), &bm);
-    HDC hMemory = ::CreateCompatibleDC(NULL);
-    HGDIOBJ hOld = ::SelectObject(hMemory, hBitmap);
-    HBITMAP hDib = CopyToDib(hMemory, 0, 0, bm.bmWidth, bm.bmHeight);
-    ::SelectObject(hMemory, hOld);
-    ::DeleteDC(hMemory);
-    ::DeleteObject(hBitmap);
-    nFailed += WriteNamedPicture(hDib, "graphdemo-properties.png", "the graph's look after the property sheet");
-    ::DeleteObject(hDib);
-    return nFailed;
+    const int nWritten = WriteGraphBitmap(graph, "graphdemo-properties.png", "the graph's look after the property sheet");
+    return nFailed + (nWritten < 0 ? 1 : nWritten);
 }
 
 } // namespace

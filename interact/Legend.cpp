@@ -27,6 +27,15 @@ CLegendData::CLegendData()
 {
 }
 
+void CLegendData::Set(COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground)
+{
+    m_crLine = crLine;
+    m_nLineStyle = nLineStyle;
+    m_nLineWidth = nLineWidth;
+    m_nAnnotate = nAnnotate;
+    m_crBackground = crBackground;
+}
+
 BEGIN_MESSAGE_MAP(CLegend, CListBox)
     ON_WM_RBUTTONUP()
     ON_WM_SIZE()
@@ -115,11 +124,7 @@ BOOL CLegend::AddEntry(CString strName, COLORREF crLine, int nLineStyle, int nLi
         e->Delete();
         return FALSE;
     }
-    pData->m_crLine = crLine;
-    pData->m_nLineStyle = nLineStyle;
-    pData->m_nLineWidth = nLineWidth;
-    pData->m_nAnnotate = nAnnotate;
-    pData->m_crBackground = crBackground;
+    pData->Set(crLine, nLineStyle, nLineWidth, nAnnotate, crBackground);
     int nIndex = AddString(strName);
     if (nIndex == LB_ERR || nIndex == LB_ERRSPACE) {
         delete pData;
@@ -161,11 +166,7 @@ BOOL CLegend::UpdateEntry(CString strName, COLORREF crLine, int nLineStyle, int 
     if (nIndex < 0)
         return FALSE;
     CLegendData* pData = (CLegendData*)GetItemDataPtr(nIndex);
-    pData->m_crLine = crLine;
-    pData->m_nLineStyle = nLineStyle;
-    pData->m_nLineWidth = nLineWidth;
-    pData->m_nAnnotate = nAnnotate;
-    pData->m_crBackground = crBackground;
+    pData->Set(crLine, nLineStyle, nLineWidth, nAnnotate, crBackground);
     return TRUE;
 }
 

@@ -8,6 +8,7 @@ class AFX_EXT_CLASS CLegendData : public CObject
 {
 public:
     CLegendData();
+    void Set(COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground);
     COLORREF m_crLine;        // the series' line colour
     int m_nLineStyle;         // its pen style
     int m_nLineWidth;         // its pen width

@@ -1,7 +1,7 @@
 // The annotation well: the marks 0 to 7 in two columns, drawn by the same
 // routine as the marks on the plot.
 #include "sheet/Wells.h"
-#include "render/AnnotationMark.h"
+#include "sheet/PickerSamples.h"
 
 IMPLEMENT_DYNAMIC(CAnnotationWell, CPickerWell)
 
@@ -24,17 +24,5 @@ void CAnnotationWell::DrawCell(CDC* pDC, int nCell, const CRect& rectCell)
 {
     CRect rect = rectCell;
     rect.DeflateRect(3, 3);
-    CPen pen(PS_SOLID, 1, RGB(0, 0, 0));
-    CBrush brush(RGB(0, 0, 0));
-    CFont font;
-    font.CreatePointFont(80, "Arial", pDC);
-    CSaveDCGuard guard(pDC);
-    pDC->SelectObject(&pen);
-    pDC->SelectObject(&brush);
-    if (font.GetSafeHandle() != NULL)
-        pDC->SelectObject(&font);
-    pDC->SetBkColor(::GetSysColor(COLOR_BTNFACE));
-    pDC->SetBkMode(OPAQUE);
-    const CPoint center = rect.CenterPoint();
-    DrawAnnotationMark(pDC, center.x, center.y, nCell);
+    DrawBlackAnnotationMark(pDC, rect.CenterPoint(), nCell, ::GetSysColor(COLOR_BTNFACE));
 }

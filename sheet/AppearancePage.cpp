@@ -50,7 +50,37 @@ int CALLBACK AddRasterSize(const LOGFONTA*, const TEXTMETRICA* pMetric, DWORD, L
     return 1;
 }
 
+// The text of the entry selected in a drop-down list, when it fits.
+BOOL SelectedEntryText(HWND hWndList, char* pszText, int nSize)
+{
+    const LRESULT nEntry = ::SendMessageA(hWndList, CB_GETCURSEL, 0, 0);
+    if (nEntry < 0 || ::SendMessageA(hWndList, CB_GETLBTEXTLEN, (WPARAM)nEntry, 0) >= nSize)
+        return FALSE;
+    ::SendMessageA(hWndList, CB_GETLBTEXT, (WPARAM)nEntry, (LPARAM)pszText);
+    return TRUE;
+}
+
 } // namespace
+
+// The font of the preview, as the graph describes it.
+struct CAppearancePage::PreviewFont
+{
+    LOGFONT lf;
+    int nPointSize;   // tenths of a point
+    DWORD crText;
+};
+
+CAppearancePage::PreviewFont CAppearancePage::GetPreviewFont()
+{
+    PreviewFont font;
+    m_graph.GetLogFont(&font.lf, &font.nPointSize, &font.crText);
+    return font;
+}
+
+void CAppearancePage::SetPreviewFont(const PreviewFont& font)
+{
+    m_graph.SetLogFont(&font.lf, font.nPointSize, font.crText);
+}
 
 IMPLEMENT_DYNAMIC(CAppearancePage, CBasePropPage)
 
@@ -157,17 +187,15 @@ void CAppearancePage::FillFontControls()
         CClientDC dc(this);
         ::EnumFontFamiliesA(dc.m_hDC, NULL, AddFamily, (LPARAM)hWndFamily);
     }
-    LOGFONT lf;
-    int nPointSize;
-    DWORD crText;
-    m_graph.GetLogFont(&lf, &nPointSize, &crText);
-    m_wellTextColor.SetValue(crText);
+    const PreviewFont font = GetPreviewFont();
+    const LOGFONT& lf = font.lf;
+    m_wellTextColor.SetValue(font.crText);
 
     const LRESULT nFace = ::SendMessageA(hWndFamily, CB_FINDSTRINGEXACT, (WPARAM)-1, (LPARAM)lf.lfFaceName);
     ::SendMessageA(hWndFamily, CB_SETCURSEL, (WPARAM)nFace, 0);
     FillSizes();
     char szSize[16];
-    sprintf(szSize, "%d", nPointSize / 10);
+    sprintf(szSize, "%d", font.nPointSize / 10);
     HWND hWndSizes = ::GetDlgItem(m_hWnd, IDC_FONT_SIZE);
     const LRESULT nSize = ::SendMessageA(hWndSizes, CB_FINDSTRINGEXACT, (WPARAM)-1, (LPARAM)szSize);
     if (nSize != CB_ERR)
@@ -186,10 +214,8 @@ void CAppearancePage::FillSizes()
 
     const LRESULT nFamily = ::SendMessageA(hWndFamily, CB_GETCURSEL, 0, 0);
     const DWORD dwFontType = nFamily >= 0 ? (DWORD)::SendMessageA(hWndFamily, CB_GETITEMDATA, (WPARAM)nFamily, 0) : 0;
-    if (nFamily >= 0 && (dwFontType & RASTER_FONTTYPE)) {
-        char szFace[LF_FACESIZE] = "";
-        if (::SendMessageA(hWndFamily, CB_GETLBTEXTLEN, (WPARAM)nFamily, 0) < LF_FACESIZE)
-            ::SendMessageA(hWndFamily, CB_GETLBTEXT, (WPARAM)nFamily, (LPARAM)szFace);
+    char szFace[LF_FACESIZE];
+    if (nFamily >= 0 && (dwFontType & RASTER_FONTTYPE) && SelectedEntryText(hWndFamily, szFace, LF_FACESIZE)) {
         CClientDC dc(this);
         SizeSink sink = { hWndSizes, ::GetDeviceCaps(dc.m_hDC, LOGPIXELSY) };
         ::EnumFontFamiliesA(dc.m_hDC, szFace, AddRasterSize, (LPARAM)&sink);
@@ -222,16 +248,9 @@ void CAppearancePage::OnFamilyChanged()
 {
     FillSizes();
     if (m_nItem == ITEM_TEXT) {
-        LOGFONT lf;
-        int nPointSize;
-        DWORD crText;
-        m_graph.GetLogFont(&lf, &nPointSize, &crText);
-        HWND hWndFamily = ::GetDlgItem(m_hWnd, IDC_FONT_FAMILY);
-        const LRESULT nFamily = ::SendMessageA(hWndFamily, CB_GETCURSEL, 0, 0);
-        if (nFamily >= 0 && ::SendMessageA(hWndFamily, CB_GETLBTEXTLEN, (WPARAM)nFamily, 0) < LF_FACESIZE) {
-            ::SendMessageA(hWndFamily, CB_GETLBTEXT, (WPARAM)nFamily, (LPARAM)lf.lfFaceName);
-            m_graph.SetLogFont(&lf, nPointSize, crText);
-        }
+        PreviewFont font = GetPreviewFont();
+        if (SelectedEntryText(::GetDlgItem(m_hWnd, IDC_FONT_FAMILY), font.lf.lfFaceName, LF_FACESIZE))
+            SetPreviewFont(font);
     }
     RepaintPreview();
 }
@@ -239,16 +258,11 @@ void CAppearancePage::OnFamilyChanged()
 void CAppearancePage::OnSizeChanged()
 {
     if (m_nItem == ITEM_TEXT) {
-        LOGFONT lf;
-        int nPointSize;
-        DWORD crText;
-        m_graph.GetLogFont(&lf, &nPointSize, &crText);
-        HWND hWndSizes = ::GetDlgItem(m_hWnd, IDC_FONT_SIZE);
-        const LRESULT nSize = ::SendMessageA(hWndSizes, CB_GETCURSEL, 0, 0);
-        char szSize[64] = "";
-        if (nSize >= 0 && ::SendMessageA(hWndSizes, CB_GETLBTEXTLEN, (WPARAM)nSize, 0) < (LRESULT)sizeof(szSize)) {
-            ::SendMessageA(hWndSizes, CB_GETLBTEXT, (WPARAM)nSize, (LPARAM)szSize);
-            m_graph.SetLogFont(&lf, atoi(szSize) * 10, crText);
+        PreviewFont font = GetPreviewFont();
+        char szSize[64];
+        if (SelectedEntryText(::GetDlgItem(m_hWnd, IDC_FONT_SIZE), szSize, sizeof(szSize))) {
+            font.nPointSize = atoi(szSize) * 10;
+            SetPreviewFont(font);
         }
     }
     RepaintPreview();
@@ -256,23 +270,17 @@ void CAppearancePage::OnSizeChanged()
 
 void CAppearancePage::OnBold()
 {
-    LOGFONT lf;
-    int nPointSize;
-    DWORD crText;
-    m_graph.GetLogFont(&lf, &nPointSize, &crText);
-    lf.lfWeight = IsDlgButtonChecked(m_hWnd, IDC_BOLD) ? WEIGHT_BOLD : WEIGHT_NORMAL;
-    m_graph.SetLogFont(&lf, nPointSize, crText);
+    PreviewFont font = GetPreviewFont();
+    font.lf.lfWeight = IsDlgButtonChecked(m_hWnd, IDC_BOLD) ? WEIGHT_BOLD : WEIGHT_NORMAL;
+    SetPreviewFont(font);
     RepaintPreview();
 }
 
 void CAppearancePage::OnItalic()
 {
-    LOGFONT lf;
-    int nPointSize;
-    DWORD crText;
-    m_graph.GetLogFont(&lf, &nPointSize, &crText);
-    lf.lfItalic = IsDlgButtonChecked(m_hWnd, IDC_ITALIC) ? 1 : 0;
-    m_graph.SetLogFont(&lf, nPointSize, crText);
+    PreviewFont font = GetPreviewFont();
+    font.lf.lfItalic = IsDlgButtonChecked(m_hWnd, IDC_ITALIC) ? 1 : 0;
+    SetPreviewFont(font);
     RepaintPreview();
 }
 
@@ -304,11 +312,9 @@ LRESULT CAppearancePage::OnColorPicked(WPARAM wParam, LPARAM lParam)
 {
     const COLORREF crColor = (COLORREF)lParam;
     if ((int)wParam == IDC_TEXT_COLOR) {
-        LOGFONT lf;
-        int nPointSize;
-        DWORD crText;
-        m_graph.GetLogFont(&lf, &nPointSize, &crText);
-        m_graph.SetLogFont(&lf, nPointSize, crColor);
+        PreviewFont font = GetPreviewFont();
+        font.crText = crColor;
+        SetPreviewFont(font);
     } else if ((int)wParam == IDC_ITEM_COLOR) {
         if (m_nItem == ITEM_BACKGROUND) {
             m_graph.SetBackgroundColor(crColor);

@@ -38,6 +38,9 @@ protected:
     afx_msg LRESULT OnLineStylePicked(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
+    struct PreviewFont;
+    PreviewFont GetPreviewFont();
+    void SetPreviewFont(const PreviewFont& font);
     // Enables the controls of the item colour (bColorGroup) or of the text.
     void ApplyEnableRule(BOOL bColorGroup);
     void FillFontControls();

@@ -1,8 +1,7 @@
 // The samples of the three drop buttons: a colour swatch, a line of the
 // pen style, an annotation mark, each in a black frame.
 #include "sheet/DropButtons.h"
-#include "render/AnnotationMark.h"
-#include "render/DrawerPen.h"
+#include "sheet/PickerSamples.h"
 
 IMPLEMENT_DYNAMIC(CColorListBox, CDropButton)
 IMPLEMENT_DYNAMIC(CLineTypeListBox, CDropButton)
@@ -38,14 +37,8 @@ CLineTypeListBox::CLineTypeListBox() : CDropButton(WM_PICKER_LINESTYLE), m_nLine
 void CLineTypeListBox::DrawSample(CDC* pDC, const CRect& rectSample)
 {
     FrameBlack(pDC, rectSample);
-    CDrawerPen pen(m_nLineStyle, 1, RGB(0, 0, 0));
-    CSaveDCGuard guard(pDC);
-    pDC->SelectObject(&pen);
-    pDC->SetBkColor(::GetSysColor(COLOR_BTNFACE));
-    pDC->SetBkMode(OPAQUE);
     const int y = (rectSample.top + rectSample.bottom) / 2;
-    pDC->MoveTo(rectSample.left + 1, y);
-    pDC->LineTo(rectSample.right - 1, y);
+    DrawPenStyleLine(pDC, m_nLineStyle, rectSample.left + 1, rectSample.right - 1, y, ::GetSysColor(COLOR_BTNFACE));
 }
 
 CAnnotationListBox::CAnnotationListBox() : CDropButton(WM_PICKER_ANNOTATION), m_nAnnotate(0)
@@ -55,17 +48,5 @@ CAnnotationListBox::CAnnotationListBox() : CDropButton(WM_PICKER_ANNOTATION), m_
 void CAnnotationListBox::DrawSample(CDC* pDC, const CRect& rectSample)
 {
     FrameBlack(pDC, rectSample);
-    CPen pen(PS_SOLID, 1, RGB(0, 0, 0));
-    CBrush brush(RGB(0, 0, 0));
-    CFont font;
-    font.CreatePointFont(80, "Arial", pDC);
-    CSaveDCGuard guard(pDC);
-    pDC->SelectObject(&pen);
-    pDC->SelectObject(&brush);
-    if (font.GetSafeHandle() != NULL)
-        pDC->SelectObject(&font);
-    pDC->SetBkColor(RGB(0, 0, 0));
-    pDC->SetBkMode(OPAQUE);
-    const CPoint center = rectSample.CenterPoint();
-    DrawAnnotationMark(pDC, center.x, center.y, m_nAnnotate);
+    DrawBlackAnnotationMark(pDC, rectSample.CenterPoint(), m_nAnnotate, RGB(0, 0, 0));
 }

@@ -24,11 +24,7 @@ const int CUSTOM_COLOR_CELLS = 16;
 CLegendData* NewRecord(COLORREF crLine, int nLineStyle, int nLineWidth, int nAnnotate, COLORREF crBackground)
 {
     CLegendData* pRecord = new CLegendData;
-    pRecord->m_crLine = crLine;
-    pRecord->m_nLineStyle = nLineStyle;
-    pRecord->m_nLineWidth = nLineWidth;
-    pRecord->m_nAnnotate = nAnnotate;
-    pRecord->m_crBackground = crBackground;
+    pRecord->Set(crLine, nLineStyle, nLineWidth, nAnnotate, crBackground);
     return pRecord;
 }
 
@@ -43,6 +39,26 @@ BOOL AddLine(CListBox& list, const CString& strName, CLegendData* pRecord)
         return FALSE;
     }
     return TRUE;
+}
+
+// A line's look into its series; the point labels follow the line colour
+// in every mode.
+void WriteRecord(const CLegendData& record, CPlotData& series)
+{
+    series.m_crLine = record.m_crLine;
+    series.m_crAnnotate = record.m_crLine;
+    series.m_nLineStyle = record.m_nLineStyle;
+    series.m_nAnnotate = record.m_nAnnotate;
+    series.m_nLineWidth = record.m_nLineWidth;
+}
+
+// A line's look into its entry of the colour table.
+void WriteRecord(const CLegendData& record, CLineColor& entry)
+{
+    entry.m_crLine = record.m_crLine;
+    entry.m_nLineStyle = record.m_nLineStyle;
+    entry.m_nLineWidth = record.m_nLineWidth;
+    entry.m_nAnnotate = record.m_nAnnotate;
 }
 
 } // namespace
@@ -319,11 +335,7 @@ void CLineColorsPage::WriteSeries()
         CLegendData* pRecord = (CLegendData*)m_listData.GetItemDataPtr(i);
         if (!m_pPlotMap->Lookup(strName, pData) || pData == NULL)
             continue;   // removed while the sheet was open
-        pData->m_crLine = pRecord->m_crLine;
-        pData->m_crAnnotate = pRecord->m_crLine;
-        pData->m_nLineStyle = pRecord->m_nLineStyle;
-        pData->m_nAnnotate = pRecord->m_nAnnotate;
-        pData->m_nLineWidth = pRecord->m_nLineWidth;
+        WriteRecord(*pRecord, *pData);
     }
 }
 
@@ -331,10 +343,7 @@ void CLineColorsPage::WriteTable()
 {
     for (int i = 0; m_pColors != NULL && i < m_listDefaults.GetCount() && i < m_nColors; i++) {
         const CLegendData* pRecord = (CLegendData*)m_listDefaults.GetItemDataPtr(i);
-        m_pColors[i].m_crLine = pRecord->m_crLine;
-        m_pColors[i].m_nLineStyle = pRecord->m_nLineStyle;
-        m_pColors[i].m_nLineWidth = pRecord->m_nLineWidth;
-        m_pColors[i].m_nAnnotate = pRecord->m_nAnnotate;
+        WriteRecord(*pRecord, m_pColors[i]);
     }
 }
 
@@ -346,19 +355,11 @@ void CLineColorsPage::WriteTableAndSeriesMatching()
         const CLegendData* pRecord = (CLegendData*)m_listDefaults.GetItemDataPtr(i);
         if (m_pColors != NULL && i < m_nColors &&
             _mbscmp((const unsigned char*)(LPCSTR)strName, (const unsigned char*)(LPCSTR)m_pColors[i].m_strName) == 0) {
-            m_pColors[i].m_crLine = pRecord->m_crLine;
-            m_pColors[i].m_nLineStyle = pRecord->m_nLineStyle;
-            m_pColors[i].m_nLineWidth = pRecord->m_nLineWidth;
-            m_pColors[i].m_nAnnotate = pRecord->m_nAnnotate;
+            WriteRecord(*pRecord, m_pColors[i]);
         }
         CPlotData* pData = NULL;
         if (m_pPlotMap != NULL && m_pPlotMap->Lookup(strName, pData) && pData != NULL) {
-            // The point labels follow the line colour, as in the other modes.
-            pData->m_crLine = pRecord->m_crLine;
-            pData->m_crAnnotate = pRecord->m_crLine;
-            pData->m_nLineStyle = pRecord->m_nLineStyle;
-            pData->m_nAnnotate = pRecord->m_nAnnotate;
-            pData->m_nLineWidth = pRecord->m_nLineWidth;
+            WriteRecord(*pRecord, *pData);
         }
     }
 }

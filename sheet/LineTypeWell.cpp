@@ -1,7 +1,7 @@
 // The line style well: one column of pen styles 0 to 4, and 5 (no line)
 // when the button allows it.
 #include "sheet/Wells.h"
-#include "render/DrawerPen.h"
+#include "sheet/PickerSamples.h"
 
 IMPLEMENT_DYNAMIC(CLineTypeWell, CPickerWell)
 
@@ -25,12 +25,5 @@ void CLineTypeWell::DrawCell(CDC* pDC, int nCell, const CRect& rectCell)
 {
     CRect rect = rectCell;
     rect.DeflateRect(3, 3);
-    CDrawerPen pen(nCell, 1, RGB(0, 0, 0));
-    CSaveDCGuard guard(pDC);
-    pDC->SelectObject(&pen);
-    pDC->SetBkColor(::GetSysColor(COLOR_BTNFACE));
-    pDC->SetBkMode(OPAQUE);
-    const int y = (rect.top + rect.bottom) / 2;
-    pDC->MoveTo(rect.left, y);
-    pDC->LineTo(rect.right, y);
+    DrawPenStyleLine(pDC, nCell, rect.left, rect.right, (rect.top + rect.bottom) / 2, ::GetSysColor(COLOR_BTNFACE));
 }

@@ -260,7 +260,11 @@ std::vector<DWORD> BitsOf(HBITMAP hBitmap, SIZE& size)
     size = { bm.bmWidth, bm.bmHeight };
     std::vector<DWORD> bits((size_t)bm.bmWidth * bm.bmHeight);
     BITMAPINFO bmi = {};
-    bmi.bmiHeader = { sizeof(BITMAPINFOHEADER), bm.bmWidth, -bm.bmHeight, 1, 32, BI_RGB };
+    bmi.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    bmi.bmiHeader.biWidth = bm.bmWidth;
+    bmi.bmiHeader.biHeight = -bm.bmHeight;
+    bmi.bmiHeader.biPlanes = 1;
+    bmi.bmiHeader.biBitCount = 32;
     HDC hDC = ::GetDC(NULL);
     ::GetDIBits(hDC, hBitmap, 0, bm.bmHeight, bits.data(), &bmi, DIB_RGB_COLORS);
     ::ReleaseDC(NULL, hDC);
