@@ -625,7 +625,7 @@ const DWORD kSheetPatienceMs = 10000;   // then the sheet is cancelled
 HWND FindSheet()
 {
     HWND hSheet = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) CALLBACK -> BOOL {
         if (::IsWindowVisible(hWnd) && ::FindWindowExA(hWnd, NULL, "SysTabControl32", NULL) != NULL) {
             *(HWND*)lParam = hWnd;
             return FALSE;
@@ -639,7 +639,7 @@ HWND FindSheet()
 HWND FindMessageBox(HWND hSheet)
 {
     struct Search { HWND hSheet, hBox; } search = { hSheet, NULL };
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) CALLBACK -> BOOL {
         Search* pSearch = (Search*)lParam;
         char szClass[16];
         ::GetClassNameA(hWnd, szClass, sizeof(szClass));

@@ -33,7 +33,7 @@ std::string Expected(UINT nID, const char* psz1 = "", const char* psz2 = "")
 int ThreadWindowCount()
 {
     int n = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND, LPARAM lParam) -> BOOL { ++*(int*)lParam; return TRUE; }, (LPARAM)&n);
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND, LPARAM lParam) CALLBACK -> BOOL { ++*(int*)lParam; return TRUE; }, (LPARAM)&n);
     return n;
 }
 

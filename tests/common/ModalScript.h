@@ -62,7 +62,7 @@ inline void SetText(HWND hWnd, const char* psz)
 inline HWND FindMessageBox(HWND hWndDialog)
 {
     struct Find { HWND hDialog, hBox; } find = { hWndDialog, NULL };
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) CALLBACK -> BOOL {
         Find* pFind = (Find*)lParam;
         char szClass[16];
         ::GetClassNameA(hWnd, szClass, sizeof(szClass));

@@ -10,7 +10,7 @@ namespace {
 int CountDescendants(HWND hWnd)
 {
     int n = 0;
-    ::EnumChildWindows(hWnd, [](HWND, LPARAM lParam) -> BOOL { ++*(int*)lParam; return TRUE; }, (LPARAM)&n);
+    ::EnumChildWindows(hWnd, [](HWND, LPARAM lParam) CALLBACK -> BOOL { ++*(int*)lParam; return TRUE; }, (LPARAM)&n);
     return n;
 }
 

@@ -24,15 +24,21 @@ public:
         strOwnDir.erase(strOwnDir.rfind('\\') + 1);
         for (const char* pszFile : { "ZPXGraph.dll", "persisthost.exe" })
             EXPECT_TRUE(::CopyFileA((strOwnDir + pszFile).c_str(), Path(pszFile).c_str(), FALSE)) << pszFile;
+        // The compiler's runtime libraries, where a build has them beside the library.
+        for (const char* pszFile : s_runtime)
+            ::CopyFileA((strOwnDir + pszFile).c_str(), Path(pszFile).c_str(), FALSE);
     }
     ~ScratchLibrary()
     {
         for (const char* pszFile : { "ZPXGraph.cfg", "dump.txt", "ZPXGraph.dll", "persisthost.exe" })
             ::DeleteFileA(Path(pszFile).c_str());
+        for (const char* pszFile : s_runtime)
+            ::DeleteFileA(Path(pszFile).c_str());
         ::RemoveDirectoryA(m_strDir.c_str());
     }
 
     std::string Path(const char* pszFile) const { return m_strDir + pszFile; }
+    static constexpr const char* s_runtime[] = { "libgcc_s_dw2-1.dll", "libstdc++-6.dll", "libwinpthread-1.dll" };
     std::wstring ConfigPathW() const
     {
         const std::string strPath = Path("ZPXGraph.cfg");

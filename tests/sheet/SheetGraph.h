@@ -14,7 +14,7 @@
 inline HWND FindSheet()
 {
     HWND hSheet = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) CALLBACK -> BOOL {
         if (::IsWindowVisible(hWnd) && ::FindWindowExA(hWnd, NULL, "SysTabControl32", NULL) != NULL) {
             *(HWND*)lParam = hWnd;
             return FALSE;
@@ -62,7 +62,7 @@ inline bool PickInWell(HWND hPage, int nButton, CPoint pt)
     ::SendMessageA(hButton, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
     ::SendMessageA(hButton, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
     HWND hWell = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) -> BOOL {
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) CALLBACK -> BOOL {
         char sz[32];
         ::GetWindowTextA(hWnd, sz, sizeof(sz));
         if (strstr(sz, "Well") != NULL && ::IsWindowVisible(hWnd))

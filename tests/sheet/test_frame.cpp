@@ -238,7 +238,7 @@ TEST(Sheet, RepeatedRunsLeakNothing)
     };
     auto windows = [] {
         int n = 0;
-        ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND, LPARAM lParam) -> BOOL { ++*(int*)lParam; return TRUE; },
+        ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND, LPARAM lParam) CALLBACK -> BOOL { ++*(int*)lParam; return TRUE; },
                             (LPARAM)&n);
         return n;
     };
