@@ -30,16 +30,16 @@ if [ -n "$missing" ]; then
         echo "setup: package index update failed (attempt $attempt)" >&2
         sleep 5
     done
-    install() { DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq --no-install-recommends "$@"; }
+    apt_install() { DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq --no-install-recommends "$@"; }
     # shellcheck disable=SC2086
-    if ! install $missing; then
+    if ! apt_install $missing; then
         # Without the newest index of one architecture, libraries shared by
         # both (Multi-Arch: same) cannot match: take both from the release.
         echo "setup: installing from the release alone" >&2
         pin="$(mktemp)"
         printf 'Package: *\nPin: release n=%s\nPin-Priority: 1001\n' "$(. /etc/os-release && echo "$VERSION_CODENAME")" > "$pin"
         # shellcheck disable=SC2086
-        install -o Dir::Etc::Preferences="$pin" --allow-downgrades $missing
+        apt_install -o Dir::Etc::Preferences="$pin" --allow-downgrades $missing
         rm -f "$pin"
     fi
 fi
