@@ -102,7 +102,7 @@ void CAppearancePage::DoDataExchange(CDataExchange*) {}
 BOOL CAppearancePage::OnInitDialog()
 {
     CBasePropPage::OnInitDialog();
-    static const struct { int nCtrl; DWORD dwHelp; } s_help[] = {
+    static const CTRL_HELP_ID s_help[] = {
         { IDC_PREVIEW_FRAME, IDH_PREVIEW },
         { IDC_ITEM_LABEL, IDH_ITEM }, { IDC_ITEM, IDH_ITEM },
         { IDC_ITEM_COLOR_LABEL, IDH_ITEM_COLOR }, { IDC_ITEM_COLOR, IDH_ITEM_COLOR },
@@ -112,8 +112,7 @@ BOOL CAppearancePage::OnInitDialog()
         { IDC_TEXT_COLOR_LABEL, IDH_TEXT_COLOR }, { IDC_TEXT_COLOR, IDH_TEXT_COLOR },
         { IDC_BOLD, IDH_BOLD }, { IDC_ITALIC, IDH_ITALIC },
     };
-    for (const auto& h : s_help)
-        SetCtrlHelpId(this, h.nCtrl, h.dwHelp);
+    SetCtrlHelpIds(this, s_help);
     m_bPageOpened = TRUE;
 
     // The preview takes the place of the frame.

@@ -19,6 +19,19 @@ struct CTRL_HELP_RECORD
 // Gives control nCtrlId of pDlg the context help id dwHelpId.
 AFX_EXT_API void SetCtrlHelpId(CWnd* pDlg, int nCtrlId, DWORD dwHelpId);
 
+// A page's controls and their help ids, given all at once.
+struct CTRL_HELP_ID
+{
+    int nCtrlId;
+    DWORD dwHelpId;
+};
+template <int N>
+void SetCtrlHelpIds(CWnd* pDlg, const CTRL_HELP_ID (&ids)[N])
+{
+    for (const CTRL_HELP_ID& id : ids)
+        SetCtrlHelpId(pDlg, id.nCtrlId, id.dwHelpId);
+}
+
 class AFX_EXT_CLASS CBasePropSheet : public CPropertySheet
 {
     DECLARE_DYNAMIC(CBasePropSheet)

@@ -41,9 +41,12 @@ BOOL CLegendOptions::ShowPicture(CBitmap& rBitmap, UINT nIDBitmap, int nCtrl)
 BOOL CLegendOptions::OnInitDialog()
 {
     CBasePropPage::OnInitDialog();
-    SetCtrlHelpId(this, IDC_AUTO_HIDE, IDH_AUTO_HIDE);
-    SetCtrlHelpId(this, IDC_GRAPH_PICTURE, IDH_LEGEND_PICTURES);
-    SetCtrlHelpId(this, IDC_LEGEND_PICTURE, IDH_LEGEND_PICTURES);
+    static const CTRL_HELP_ID s_help[] = {
+        { IDC_AUTO_HIDE, IDH_AUTO_HIDE },
+        { IDC_GRAPH_PICTURE, IDH_LEGEND_PICTURES },
+        { IDC_LEGEND_PICTURE, IDH_LEGEND_PICTURES },
+    };
+    SetCtrlHelpIds(this, s_help);
 
     // Without its pictures the page has nothing to show: the sheet is
     // cancelled.

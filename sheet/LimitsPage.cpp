@@ -48,7 +48,7 @@ void CLimitsPage::DoDataExchange(CDataExchange* pDX)
 BOOL CLimitsPage::OnInitDialog()
 {
     CBasePropPage::OnInitDialog();
-    static const struct { int nCtrl; DWORD dwHelp; } s_help[] = {
+    static const CTRL_HELP_ID s_help[] = {
         { IDC_X_MIN_LABEL, IDH_X_MIN }, { IDC_X_MIN, IDH_X_MIN },
         { IDC_X_MAX_LABEL, IDH_X_MAX }, { IDC_X_MAX, IDH_X_MAX },
         { IDC_YLEFT_HEADING, IDH_YLEFT_HEADING },
@@ -61,8 +61,7 @@ BOOL CLimitsPage::OnInitDialog()
         { IDC_RADAR_X_PERCENT_LABEL, IDH_RADAR_X_PERCENT }, { IDC_RADAR_X_PERCENT, IDH_RADAR_X_PERCENT },
         { IDC_RADAR_Y_PERCENT_LABEL, IDH_RADAR_Y_PERCENT }, { IDC_RADAR_Y_PERCENT, IDH_RADAR_Y_PERCENT },
     };
-    for (const auto& h : s_help)
-        SetCtrlHelpId(this, h.nCtrl, h.dwHelp);
+    SetCtrlHelpIds(this, s_help);
     m_bPageOpened = TRUE;
 
     // Seven significant digits, except the X maximum, which keeps the

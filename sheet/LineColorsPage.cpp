@@ -105,7 +105,7 @@ BOOL CLineColorsPage::OnInitDialog()
     m_bWritingWidth = TRUE;
     CBasePropPage::OnInitDialog();
     m_bWritingWidth = FALSE;
-    static const struct { int nCtrl; DWORD dwHelp; } s_help[] = {
+    static const CTRL_HELP_ID s_help[] = {
         { IDC_LIST_LABEL, IDH_SERIES_LIST }, { IDC_SERIES_LIST, IDH_SERIES_LIST },
         { IDC_BASE_PALETTE_LABEL, IDH_BASE_PALETTE }, { IDC_BASE_PALETTE, IDH_BASE_PALETTE },
         { IDC_ANNOTATION_LABEL, IDH_ANNOTATION }, { IDC_ANNOTATION, IDH_ANNOTATION },
@@ -115,8 +115,7 @@ BOOL CLineColorsPage::OnInitDialog()
         { IDC_CUSTOM_PALETTE_LABEL, IDH_CUSTOM_PALETTE }, { IDC_CUSTOM_PALETTE, IDH_CUSTOM_PALETTE },
         { IDC_DEFINE_CUSTOM_COLORS, IDH_DEFINE_CUSTOM_COLORS }, { IDC_SWITCH_LIST, IDH_SWITCH_LIST },
     };
-    for (const auto& h : s_help)
-        SetCtrlHelpId(this, h.nCtrl, h.dwHelp);
+    SetCtrlHelpIds(this, s_help);
     m_bPageOpened = TRUE;
 
     // The custom palette works on the array in force, so an added colour is

@@ -36,10 +36,13 @@ void CSettingsPage::DoDataExchange(CDataExchange* pDX)
 BOOL CSettingsPage::OnInitDialog()
 {
     CBasePropPage::OnInitDialog();
-    SetCtrlHelpId(this, IDC_GRID_TYPE_LABEL, IDH_GRID_TYPE);
-    SetCtrlHelpId(this, IDC_GRID_TYPE, IDH_GRID_TYPE);
-    SetCtrlHelpId(this, IDC_MAJOR_TICS, IDH_MAJOR_TICS);
-    SetCtrlHelpId(this, IDC_MINOR_TICS, IDH_MINOR_TICS);
+    static const CTRL_HELP_ID s_help[] = {
+        { IDC_GRID_TYPE_LABEL, IDH_GRID_TYPE },
+        { IDC_GRID_TYPE, IDH_GRID_TYPE },
+        { IDC_MAJOR_TICS, IDH_MAJOR_TICS },
+        { IDC_MINOR_TICS, IDH_MINOR_TICS },
+    };
+    SetCtrlHelpIds(this, s_help);
     m_bPageOpened = TRUE;
 
     // The first grid bit set chooses the entry; a word without any of them

@@ -58,6 +58,20 @@ inline void SetText(HWND hWnd, const char* psz)
     ::SendMessageA(hWnd, WM_SETTEXT, 0, (LPARAM)psz);
 }
 
+// A visible dialog (a message box, a common dialog) of this thread, or null.
+inline HWND FindVisibleDialog()
+{
+    HWND hDialog = NULL;
+    ::EnumThreadWindows(::GetCurrentThreadId(), [](HWND hWnd, LPARAM lParam) CALLBACK -> BOOL {
+        char szClass[16];
+        ::GetClassNameA(hWnd, szClass, sizeof(szClass));
+        if (strcmp(szClass, "#32770") == 0 && ::IsWindowVisible(hWnd))
+            *(HWND*)lParam = hWnd;
+        return TRUE;
+    }, (LPARAM)&hDialog);
+    return hDialog;
+}
+
 // The message box that a dialog of this thread shows, or null.
 inline HWND FindMessageBox(HWND hWndDialog)
 {

@@ -3,6 +3,7 @@
 // a host as a page attaches them, pixels read from their windows, mouse
 // messages sent, the modal dialog driven from a timer in its loop.
 #include "TestUtil.h"
+#include "ModalScript.h"
 #include "sheet/ColorPalette.h"
 #include "sheet/DropButtons.h"
 #include "sheet/LineColorList.h"
@@ -280,19 +281,9 @@ namespace {
 // template, adds red, green and blue, and closes it.
 struct AddScript { bool bTemplate, bDisabled, bDone; } s_add;
 
-BOOL CALLBACK FindDialog(HWND hWnd, LPARAM lParam)
-{
-    char szClass[16];
-    ::GetClassNameA(hWnd, szClass, sizeof(szClass));
-    if (lstrcmpA(szClass, "#32770") == 0 && ::IsWindowVisible(hWnd))
-        *(HWND*)lParam = hWnd;
-    return TRUE;
-}
-
 void CALLBACK AddColors(HWND, UINT, UINT_PTR nTimer, DWORD)
 {
-    HWND hDlg = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), FindDialog, (LPARAM)&hDlg);
+    HWND hDlg = FindVisibleDialog();
     if (hDlg == NULL)
         return;
     ::KillTimer(NULL, nTimer);

@@ -3,6 +3,7 @@
 // clicks sent as messages; the wells opened under a button, picked with
 // the mouse, closed by a choice or by a lost focus.
 #include "TestUtil.h"
+#include "ModalScript.h"
 #include "sheet/ColorPalette.h"
 #include "sheet/Wells.h"
 #include <vector>
@@ -338,19 +339,9 @@ namespace {
 // and presses OK, or presses Cancel. Notes whether the well stood hidden.
 struct DialogScript { HWND hWell; bool bOk, bWellHidden, bDone; } s_script;
 
-BOOL CALLBACK FindDialog(HWND hWnd, LPARAM lParam)
-{
-    char szClass[16];
-    ::GetClassNameA(hWnd, szClass, sizeof(szClass));
-    if (lstrcmpA(szClass, "#32770") == 0 && ::IsWindowVisible(hWnd))
-        *(HWND*)lParam = hWnd;
-    return TRUE;
-}
-
 void CALLBACK RunDialog(HWND, UINT, UINT_PTR nTimer, DWORD)
 {
-    HWND hDialog = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), FindDialog, (LPARAM)&hDialog);
+    HWND hDialog = FindVisibleDialog();
     if (hDialog == NULL)
         return;
     ::KillTimer(NULL, nTimer);
